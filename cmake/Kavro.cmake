@@ -1,0 +1,47 @@
+# The one set of warnings and strict macros that every target of ours is built with.
+add_library(kavro_strict INTERFACE)
+target_compile_options(kavro_strict INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
+  -Woverloaded-virtual -Wnull-dereference -Wcast-qual -Werror)
+target_compile_definitions(kavro_strict INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
+  QT_NO_CONTEXTLESS_CONNECT QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH
+  QT_STRICT_ITERATORS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(KAVRO_SANITIZE)
+  target_compile_options(kavro_strict INTERFACE -fsanitize=address,undefined
+    -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(kavro_strict INTERFACE -fsanitize=address,undefined)
+endif()
+
+# kavro_library(FOLDER [DEPENDS FOLDER...] [LINKS TARGET...])
+#
+# One static library of all sources of src/FOLDER. DEPENDS names the folders it may include; what is
+# not named is not on its link line, so an include that points upward does not link.
+function(kavro_library folder)
+  cmake_parse_arguments(arg "" "" "DEPENDS;LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  add_library(kavro_${folder} STATIC ${sources})
+  set_target_properties(kavro_${folder} PROPERTIES AUTOMOC ON)
+  target_include_directories(kavro_${folder} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  list(TRANSFORM arg_DEPENDS PREPEND kavro_)
+  target_link_libraries(kavro_${folder} PUBLIC Qt6::Core ${arg_DEPENDS} PRIVATE kavro_strict ${arg_LINKS})
+endfunction()
+
+# kavro_tests(FOLDER [LINKS TARGET...]): one test program of all tests/FOLDER/*_test.cpp.
+function(kavro_tests folder)
+  cmake_parse_arguments(arg "" "" "LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
+       ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(${folder}_tests ${sources})
+  target_include_directories(${folder}_tests PRIVATE ${CMAKE_SOURCE_DIR})
+  target_compile_definitions(${folder}_tests PRIVATE
+    KAVRO_TEST_FILES="${CMAKE_CURRENT_SOURCE_DIR}/${folder}" KAVRO_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+  target_link_libraries(${folder}_tests PRIVATE ${arg_LINKS} GTest::gtest kavro_strict)
+  set_target_properties(${folder}_tests PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  gtest_discover_tests(${folder}_tests TEST_PREFIX ${folder}. DISCOVERY_TIMEOUT 60
+    PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC")
+endfunction()
