@@ -1,0 +1,64 @@
+#pragma once
+
+#include "controls/control.h"
+
+#include <QHash>
+#include <QList>
+
+namespace kavro {
+
+/// A tree of texts. A node is named by its number, which stays until the node is removed.
+class TreeView : public Control
+{
+    Q_OBJECT
+
+public:
+    using Control::Control;
+
+    static constexpr int noNode = -1;
+
+    struct Node
+    {
+        QString key; ///< null when the node has none
+        QString text;
+        int parent = noNode;
+        QList<int> children;
+    };
+
+    /// Adds a node as its parent's last child, or as a root. Returns its number, `noNode` when the
+    /// key stands already (keys are the same in any case of letters).
+    int add(int parent, const QString &text, const QString &key = {});
+    /// The node with that key, `noNode` for none.
+    [[nodiscard]] int find(const QString &key) const;
+    /// The first node with that text, from the top as the tree shows them, `noNode` for none.
+    [[nodiscard]] int findText(QStringView text) const;
+    [[nodiscard]] const Node &node(int number) const { return m_nodes.at(number); }
+    [[nodiscard]] const QList<int> &roots() const { return m_roots; }
+    void setText(int number, const QString &text);
+    /// Takes a node and all below it away.
+    void remove(int number);
+    void clear();
+    [[nodiscard]] int selected() const { return m_selected; }
+    void setSelected(int number);
+
+    /// Act: the user clicks a node.
+    void click(int number);
+
+signals:
+    void added(int number);
+    void textChanged(int number);
+    /// Nodes went away.
+    void reset();
+    void selectedChanged(int number);
+    void clicked(int number);
+
+private:
+    void forget(int number);
+
+    QList<Node> m_nodes;
+    QList<int> m_roots;
+    QHash<QString, int> m_byKey; ///< keys in lower case
+    int m_selected = noNode;
+};
+
+} // namespace kavro
