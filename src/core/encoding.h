@@ -1,0 +1,120 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+#include <QStringEncoder>
+#include <QStringView>
+
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace kavro {
+
+/// How text stands in a file: one of `textEncodings`, by name, with or without byte order mark.
+/// A default one is what a new document has.
+struct TextEncoding
+{
+    QByteArray name = "UTF-8";
+    bool bom = false;
+
+    bool operator==(const TextEncoding &) const = default;
+};
+
+/// An encoding that "Reopen as" offers.
+struct EncodingEntry
+{
+    const char *name;  ///< as files and the command line name it
+    const char *label; ///< for a person: "Cyrillic (Windows-1251)"
+};
+
+/// The encodings in the order of the list; every name can be read and written.
+std::span<const EncodingEntry> textEncodings();
+
+/// The encoding with this name, in any case and by its usual other names; UTF-16 and UTF-32 have a
+/// byte order mark. None when nobody knows the name.
+std::optional<TextEncoding> encodingByName(QStringView name);
+
+/// The name of the code page of a font's character set (0 Western, 204 Cyrillic, ...); empty when
+/// the set names none.
+QByteArray codePageOfCharacterSet(int characterSet);
+
+/// The encoding as the status bar shows it: its name, with " BOM" behind a UTF-8 that has a mark.
+QString encodingText(const TextEncoding &encoding);
+
+/// True for the encodings that hold every character.
+bool holdsEverything(const TextEncoding &encoding);
+
+/// Finds a file's encoding from its bytes, handed in one piece after the other; memory is bounded
+/// whatever the file's size.
+///
+/// A byte order mark decides; else UTF-8 when every byte fits it; else the code page of the
+/// setting; else a guess from the bytes; else Windows-1252.
+class EncodingDetector
+{
+public:
+    EncodingDetector();
+    ~EncodingDetector();
+    EncodingDetector(const EncodingDetector &) = delete;
+    EncodingDetector &operator=(const EncodingDetector &) = delete;
+
+    void feed(QByteArrayView bytes);
+
+    /// @param codePage  what the setting says, empty when it is off
+    [[nodiscard]] TextEncoding finish(const QByteArray &codePage);
+
+    /// True when no more bytes can change the answer.
+    [[nodiscard]] bool settled() const { return m_settled; }
+
+private:
+    void feedUtf8(QByteArrayView bytes);
+    void feedGuess(QByteArrayView bytes);
+
+    struct Guess;
+    std::optional<TextEncoding> m_marked; ///< by the byte order mark
+    QByteArray m_head;                    ///< the first bytes, until there are enough for a mark
+    QByteArray m_utf8Tail;                ///< a sequence cut at the end of a piece
+    std::unique_ptr<Guess> m_guess;       ///< made at the first byte that isn't ASCII
+    qsizetype m_guessed = 0;              ///< bytes given to the guess
+    bool m_isUtf8 = true;
+    bool m_settled = false;
+};
+
+/// The length of the byte order mark that `bytes` begin with and its encoding, none when there is
+/// none.
+std::optional<TextEncoding> encodingByMark(QByteArrayView bytes);
+QByteArray markOf(const TextEncoding &encoding);
+
+/// Turns text into the bytes of one file, piece after piece.
+class TextEncoder
+{
+public:
+    explicit TextEncoder(const TextEncoding &encoding);
+
+    /// Appends the bytes of `text` to `bytes`; the first call puts the byte order mark ahead.
+    /// @return  false when a character can't be held; a substitute stands in its place
+    bool append(QStringView text, QByteArray &bytes);
+
+private:
+    QStringEncoder m_encoder;
+    QByteArray m_mark;
+};
+
+/// Asks ahead of a write whether an encoding holds a text.
+class EncodingCheck
+{
+public:
+    explicit EncodingCheck(const TextEncoding &encoding);
+
+    /// True when every character of `text` can be held.
+    bool holds(QStringView text);
+
+private:
+    QStringEncoder m_encoder;
+    bool m_everything;
+    std::vector<char> m_bytes;
+};
+
+} // namespace kavro
