@@ -1,0 +1,137 @@
+#pragma once
+
+#include "core/action_trace.h"
+#include "core/encoding.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <vector>
+
+namespace kavro {
+
+class LanguageTable;
+struct EditorPage;
+struct FontLists;
+struct PlayerPage;
+struct SettingsPage;
+struct TimePage;
+
+/// A named range of rows, first to last, 1-based.
+struct Node
+{
+    int firstRow = 0;
+    int lastRow = 0;
+    QString name;
+    bool flag = false;
+};
+
+/// The loaded subtitle: the grid of the editor page and the side stores that stay in step with it.
+///
+/// Row 0 of the grid is the header, rows 1 to Rows-2 are the subtitles, row Rows-1 is the empty end
+/// row. Texts of the cells are told in `Column`; text cells of a loaded file begin with a blank.
+class SubtitleDocument : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int maxSubtitles = 9999;
+    static constexpr int maxNodes = 99;
+
+    SubtitleDocument(EditorPage &editor, TimePage &times, FontLists &fonts, PlayerPage &player,
+                     SettingsPage &settings, const LanguageTable &language, ActionTrace &trace);
+
+    /// Number of subtitles, Rows-2, never below 0.
+    [[nodiscard]] int subtitleCount() const;
+
+    /// Full path with the machine's own separators; "Noname" in the data folder for a new document.
+    QString subFileName;
+    QString subBaseName;          ///< name without folder, cut at its first "."
+    QString ftpFileName;          ///< name for the online exchange
+    int curFormatId = 0;          ///< 1 to 16, 0 for none
+    bool subtitleChanged = false; ///< the player's list matches the grid
+    int curRow = 0;               ///< current row as the grid's events last saw it
+    int searchIndex = 0;          ///< row of the last click in the grid
+    bool editorBlocked = false;   ///< a bulk fill is under way; row changes do nothing
+    int scriptTime = 0;           ///< start of the current row in 10 ms, less one
+    QString frameRate = QStringLiteral("25.000");  ///< frames a second
+    QString curFontName = QStringLiteral("Arial"); ///< font of new rows
+    int errorCount = 0;                            ///< findings of the last scan
+    TextEncoding encoding; ///< what the file was read in and is written back in
+    /// The path and format that the document came from or went to at last, empty after a split or
+    /// an added file of another format: what Ctrl+S may write to without a question.
+    QString savedPath;
+    int savedFormatId = 0;
+
+    /// The finding of a row; empty for none and outside the grid.
+    [[nodiscard]] QString rowErrorText(int row) const;
+    void setRowErrorText(int row, const QString &text);
+    void clearRowErrors();
+
+    /// Element 0 stands for the whole document; 1 to nodeCount are the nodes, sorted, without gaps.
+    std::array<Node, maxNodes + 1> nodes;
+    int nodeCount = 0;
+    int curNode = 0;
+
+    /// The document differs from its file.
+    [[nodiscard]] bool fileChanged() const { return m_fileChanged; }
+    void setFileChanged(bool changed);
+    /// What every edit does: `fileChanged` set, `subtitleChanged` cleared.
+    void markEdited();
+
+    /// Captions of the columns from the language table; column 0 has none.
+    std::array<QString, 6> gridColCaption;
+    void fillColumnCaptions();
+
+    /// Two rows, the second empty. Touches no side store.
+    void ClearGrid();
+    /// Three rows, one empty subtitle, one node; what stood in the side stores is gone.
+    void startNew();
+    /// Takes findings and cell colours away: the start of a load or a new document.
+    void clearFindings();
+    /// Shows the current row in the panels; runs at each change of the current cell.
+    void RefreshCurrentRow();
+    /// Shows one line of the current row in preview line `index`, 0 to 2, trimmed on the left.
+    void subShowSubtitle(const QString &text, int index);
+    /// Fills the player's list with one entry a subtitle.
+    void BuildPlayerList();
+    /// Paints the marks of all nodes by row and column, then sets the grid's top row. Nodes behind
+    /// the end of the grid are dropped.
+    void ShowNodeMarks(int topRow);
+    /// The cells of every node back to plain numbers and no colour.
+    void clearNodeMarks();
+    /// The font entry of a row; empty for a row without one.
+    [[nodiscard]] QString fontEntry(int row) const;
+    /// "Arial;Western;" + the regular word + ";16", or with another font, style and size.
+    [[nodiscard]] QString makeFontEntry(const QString &font, const QString &style,
+                                        const QString &size) const;
+
+    EditorPage &editor;
+    TimePage &times;
+    FontLists &fonts;
+    PlayerPage &player;
+
+signals:
+    void fileChangedChanged(bool changed);
+    /// `subFileName` is another one.
+    void nameChanged();
+
+private:
+    void connectGrid();
+    void connectCellEditor();
+    void showRowTexts();
+    void showFinding();
+    void enableRowCommands();
+    void hideCellTools();
+    void endCellEdit(bool keep);
+
+    SettingsPage &m_settings;
+    const LanguageTable &m_language;
+    ActionTrace &m_trace;
+    bool m_fileChanged = false;
+    std::vector<QString> m_rowErrorText;
+};
+
+} // namespace kavro

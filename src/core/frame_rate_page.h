@@ -1,0 +1,19 @@
+#pragma once
+
+#include "controls/control_array.h"
+#include "controls/drop_list.h"
+
+#include <array>
+
+namespace kavro {
+
+/// The frame rate in force and the two rates of a conversion.
+struct FrameRatePage
+{
+    explicit FrameRatePage(Form &frmMain);
+
+    ControlArray<OptionButton, 0, 4> optFrameRate; ///< 23.970, 24.000, 25.000, 29.970, 30.000
+    std::array<DropList, 2> Combo14;               ///< from, to; the same five rates
+};
+
+} // namespace kavro

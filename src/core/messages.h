@@ -1,0 +1,71 @@
+#pragma once
+
+#include "controls/control_array.h"
+#include "controls/text_box.h"
+#include "core/ports.h"
+
+#include <functional>
+
+namespace kavro {
+
+class Form;
+class LanguageTable;
+struct ActionTrace;
+struct MacroVariables;
+
+/// A message's text: a template in the program's own words, and what is put in for %1, %2, ...
+///
+/// "/n" and variables are expanded in the template alone, never in a path, a line of a file or a
+/// fault's description that is put in.
+struct MessageText
+{
+    // NOLINTNEXTLINE(google-explicit-constructor): a plain text is a template without arguments
+    MessageText(const QString &text, const QStringList &values = {})
+        : pattern(text), arguments(values)
+    {}
+
+    QString pattern;
+    QStringList arguments;
+};
+
+/// The message window, `frmMessageBox`: the single way to report or ask anything.
+class Messages
+{
+public:
+    Messages(Form &frmMessageBox, MessageWindow &window, ActionTrace &trace,
+             MacroVariables &variables);
+
+    /// Shows a message and waits. Records code 30.
+    ///
+    /// @param kind   words "cancel", "ok", "no", "yes" in any combination, such as "yesnocancel"
+    /// @return       the answer, which `msgResult` keeps
+    Answer ShowMessage(const MessageText &text, Answer defaultButton, const QString &kind,
+                       const QString &title, bool showInput = false);
+
+    /// The last answer.
+    Answer msgResult = Answer::Cancel;
+
+    /// Replaces the variables in a text by their values; set by the macro system.
+    std::function<QString(const QString &)> expandVariables;
+    /// Called when a variable was entered in the window.
+    std::function<void()> variablesChanged;
+
+    Label Label4;                         ///< title
+    Label Label1;                         ///< text
+    ControlArray<Button, 0, 3> cmdAction; ///< cancel, ok, no, yes
+    ControlArray<Frame, 0, 3> Picture1;   ///< marks the default button
+    ControlArray<TextBox, 0, 1> txtInput; ///< a variable's name and value
+    ControlArray<Label, 0, 1> Label2;     ///< captions of the two fields
+
+private:
+    void placeButtons(const Message &message);
+    void answer(Answer answer);
+    void storeInput();
+
+    Form &m_form;
+    MessageWindow &m_window;
+    ActionTrace &m_trace;
+    MacroVariables &m_variables;
+};
+
+} // namespace kavro

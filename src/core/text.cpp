@@ -1,0 +1,201 @@
+#include "core/text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <string_view>
+
+using namespace Qt::StringLiterals;
+
+namespace kavro {
+
+namespace {
+
+constexpr char16_t blank = u' ';
+constexpr int significantDigits = 15;
+
+bool isDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+double powerOfTen(qsizetype exponent)
+{
+    static constexpr std::array powers = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                          1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    return powers[static_cast<std::size_t>(exponent)];
+}
+
+/// Digits with at most one ".", as they stand between sign and rest.
+double numberOf(QStringView digits)
+{
+    qint64 mantissa = 0;
+    qsizetype decimals = 0;
+    bool behindPoint = false;
+    if (digits.size() > significantDigits) {
+        const double value = digits.toDouble();
+        return std::min(value, std::numeric_limits<double>::max());
+    }
+    for (const QChar c : digits) {
+        if (c == u'.') {
+            behindPoint = true;
+            continue;
+        }
+        mantissa = mantissa * 10 + (c.unicode() - u'0');
+        decimals += behindPoint ? 1 : 0;
+    }
+    // Both are exact below 2^53, so the one division rounds as a conversion of the whole text
+    // would.
+    return static_cast<double>(mantissa) / powerOfTen(decimals);
+}
+
+/// The decimal text of a number that isn't small and whole: its digits, placed around the point.
+QString placedDigits(double value)
+{
+    std::array<char, 32> buffer{};
+    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                       std::chars_format::scientific, significantDigits - 1);
+    const std::string_view text(buffer.data(),
+                                static_cast<std::size_t>(written.ptr - buffer.data()));
+    const std::size_t mark = text.find('e');
+    int exponent = 0;
+    const bool down = text[mark + 1] == '-';
+    std::from_chars(text.data() + mark + 2, text.data() + text.size(), exponent);
+    exponent = down ? -exponent : exponent;
+
+    const bool negative = text.front() == '-';
+    QString digits;
+    for (const char c : text.substr(0, mark)) {
+        if (c >= '0' && c <= '9')
+            digits += QLatin1Char(c);
+    }
+    while (digits.size() > 1 && digits.endsWith(u'0'))
+        digits.chop(1);
+
+    const qsizetype whole = exponent + 1; // digits ahead of the point
+    if (whole <= 0)
+        digits = u"0."_s + QString(-whole, u'0') + digits;
+    else if (whole >= digits.size())
+        digits += QString(whole - digits.size(), u'0');
+    else
+        digits.insert(whole, u'.');
+    return negative ? u'-' + digits : digits;
+}
+
+} // namespace
+
+double Val(QStringView text)
+{
+    const QChar *c = text.begin();
+    const QChar *const end = text.end();
+    while (c != end && *c == blank)
+        ++c;
+    const bool negative = c != end && *c == u'-';
+    if (c != end && (*c == u'-' || *c == u'+'))
+        ++c;
+    const QChar *const first = c;
+    bool point = false;
+    while (c != end && (isDigit(*c) || (*c == u'.' && !point))) {
+        point = point || *c == u'.';
+        ++c;
+    }
+    const double value = numberOf(QStringView(first, c));
+    return negative ? -value : value;
+}
+
+int intVal(QStringView text)
+{
+    const double value = std::trunc(Val(text));
+    return static_cast<int>(std::clamp(value, double{std::numeric_limits<int>::min()},
+                                       double{std::numeric_limits<int>::max()}));
+}
+
+QString numberText(double value)
+{
+    if (!std::isfinite(value))
+        return u"0"_s;
+    if (std::abs(value) < 1e15 && value == std::trunc(value))
+        return QString::number(static_cast<qint64>(value));
+    return placedDigits(value);
+}
+
+QString blankNumberText(double value)
+{
+    const QString text = numberText(value);
+    return text.startsWith(u'-') ? text : blank + text;
+}
+
+QStringView trimmed(QStringView text)
+{
+    return leftTrimmed(rightTrimmed(text));
+}
+
+QStringView leftTrimmed(QStringView text)
+{
+    while (text.startsWith(blank))
+        text = text.sliced(1);
+    return text;
+}
+
+QStringView rightTrimmed(QStringView text)
+{
+    while (text.endsWith(blank))
+        text.chop(1);
+    return text;
+}
+
+QStringView Mid(QStringView text, qsizetype start, qsizetype length)
+{
+    const qsizetype from = std::clamp<qsizetype>(start - 1, 0, text.size());
+    return text.sliced(from, std::clamp<qsizetype>(length, 0, text.size() - from));
+}
+
+QStringView Left(QStringView text, qsizetype length)
+{
+    return Mid(text, 1, length);
+}
+
+QStringView Right(QStringView text, qsizetype length)
+{
+    return text.last(std::clamp<qsizetype>(length, 0, text.size()));
+}
+
+qsizetype InStr(QStringView text, QStringView what)
+{
+    return text.indexOf(what) + 1;
+}
+
+qsizetype InStr(qsizetype start, QStringView text, QStringView what)
+{
+    // A view counts a position from -1 down from its end.
+    return text.indexOf(what, std::max<qsizetype>(start - 1, 0)) + 1;
+}
+
+QString expandLineBreaks(QStringView text)
+{
+    return text.toString().replace("/n"_L1, "\r\n"_L1);
+}
+
+double cutToWhole(double value)
+{
+    const double nearest = std::round(value);
+    return std::abs(value - nearest) <= 1e-9 ? nearest : std::floor(value);
+}
+
+QString secondsText(double seconds)
+{
+    constexpr double greatest = 1e12;
+    if (!(seconds > 0))
+        return u"0.000"_s;
+    const double thousandths = std::min(seconds, greatest) * 1000;
+    const double nearest = std::round(thousandths);
+    // The tolerance is one of the seconds: in thousandths it is a thousand times as wide.
+    const double cut = std::abs(thousandths - nearest) <= 1e-6 ? nearest : std::floor(thousandths);
+    QString digits = QString::number(static_cast<qint64>(cut));
+    if (digits.size() < 4)
+        digits = digits.rightJustified(4, u'0');
+    return digits.insert(digits.size() - 3, u'.');
+}
+
+} // namespace kavro
