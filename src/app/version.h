@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+namespace kavro {
+
+/// The program's title.
+inline QString versionName()
+{
+    return QStringLiteral("Kavro");
+}
+
+constexpr int versionMajor = 4;
+constexpr int versionMinor = 0;
+constexpr int versionRevision = 0;
+
+/// Major, ".", minor, "0": "4.00". Packs and stored files are compared with it.
+inline QString versionNumber()
+{
+    return QStringLiteral("4.00");
+}
+
+/// Major, minor and revision without separators.
+inline QString buildNumber()
+{
+    return QStringLiteral("400");
+}
+
+} // namespace kavro
