@@ -13,6 +13,14 @@ if(KAVRO_SANITIZE)
   target_link_options(kavro_strict INTERFACE -fsanitize=address,undefined)
 endif()
 
+# What nearly every source includes, compiled once a preset.
+file(WRITE ${CMAKE_BINARY_DIR}/pch.cpp.new "// Stands behind the precompiled headers.\n")
+configure_file(${CMAKE_BINARY_DIR}/pch.cpp.new ${CMAKE_BINARY_DIR}/pch.cpp COPYONLY)
+add_library(kavro_pch STATIC ${CMAKE_BINARY_DIR}/pch.cpp)
+target_link_libraries(kavro_pch PRIVATE Qt6::Core kavro_strict)
+target_precompile_headers(kavro_pch PRIVATE <QObject> <QString> <QStringList> <QHash> <QList>
+  <QFile> <QDateTime> <algorithm> <array> <functional> <memory> <optional> <span> <vector>)
+
 # kavro_library(FOLDER [DEPENDS FOLDER...] [LINKS TARGET...])
 #
 # One static library of all sources of src/FOLDER. DEPENDS names the folders it may include; what is
@@ -20,11 +28,16 @@ endif()
 function(kavro_library folder)
   cmake_parse_arguments(arg "" "" "DEPENDS;LINKS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  if(NOT sources MATCHES "cpp")
+    add_library(kavro_${folder} INTERFACE)
+    return()
+  endif()
   add_library(kavro_${folder} STATIC ${sources})
   set_target_properties(kavro_${folder} PROPERTIES AUTOMOC ON)
   target_include_directories(kavro_${folder} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   list(TRANSFORM arg_DEPENDS PREPEND kavro_)
   target_link_libraries(kavro_${folder} PUBLIC Qt6::Core ${arg_DEPENDS} PRIVATE kavro_strict ${arg_LINKS})
+  target_precompile_headers(kavro_${folder} REUSE_FROM kavro_pch)
 endfunction()
 
 # kavro_tests(FOLDER [LINKS TARGET...]): one test program of all tests/FOLDER/*_test.cpp.
@@ -40,6 +53,11 @@ function(kavro_tests folder)
   target_compile_definitions(${folder}_tests PRIVATE
     KAVRO_TEST_FILES="${CMAKE_CURRENT_SOURCE_DIR}/${folder}" KAVRO_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   target_link_libraries(${folder}_tests PRIVATE ${arg_LINKS} GTest::gtest kavro_strict)
+  if(folder STREQUAL "ui")
+    target_precompile_headers(${folder}_tests PRIVATE <gtest/gtest.h> <QtWidgets>)
+  elseif(TARGET kavro_tests_pch)
+    target_precompile_headers(${folder}_tests REUSE_FROM kavro_tests_pch)
+  endif()
   set_target_properties(${folder}_tests PROPERTIES
     RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   gtest_discover_tests(${folder}_tests TEST_PREFIX ${folder}. DISCOVERY_TIMEOUT 60

@@ -9,7 +9,6 @@
 #include <memory>
 #include <optional>
 #include <span>
-#include <vector>
 
 namespace kavro {
 
@@ -44,9 +43,6 @@ QByteArray codePageOfCharacterSet(int characterSet);
 /// The encoding as the status bar shows it: its name, with " BOM" behind a UTF-8 that has a mark.
 QString encodingText(const TextEncoding &encoding);
 
-/// True for the encodings that hold every character.
-bool holdsEverything(const TextEncoding &encoding);
-
 /// Finds a file's encoding from its bytes, handed in one piece after the other; memory is bounded
 /// whatever the file's size.
 ///
@@ -55,31 +51,29 @@ bool holdsEverything(const TextEncoding &encoding);
 class EncodingDetector
 {
 public:
-    EncodingDetector();
+    /// @param codePage  what the setting says, empty when it is off
+    explicit EncodingDetector(const QByteArray &codePage = {});
     ~EncodingDetector();
     EncodingDetector(const EncodingDetector &) = delete;
     EncodingDetector &operator=(const EncodingDetector &) = delete;
 
+    /// The first piece must hold four bytes, if the file has so many.
     void feed(QByteArrayView bytes);
 
-    /// @param codePage  what the setting says, empty when it is off
-    [[nodiscard]] TextEncoding finish(const QByteArray &codePage);
-
-    /// True when no more bytes can change the answer.
-    [[nodiscard]] bool settled() const { return m_settled; }
+    /// Takes the pieces so far for the whole file.
+    [[nodiscard]] TextEncoding finish();
 
 private:
-    void feedUtf8(QByteArrayView bytes);
+    [[nodiscard]] bool fitsUtf8(QByteArrayView bytes);
     void feedGuess(QByteArrayView bytes);
 
     struct Guess;
-    std::optional<TextEncoding> m_marked; ///< by the byte order mark
-    QByteArray m_head;                    ///< the first bytes, until there are enough for a mark
-    QByteArray m_utf8Tail;                ///< a sequence cut at the end of a piece
-    std::unique_ptr<Guess> m_guess;       ///< made at the first byte that isn't ASCII
-    qsizetype m_guessed = 0;              ///< bytes given to the guess
-    bool m_isUtf8 = true;
-    bool m_settled = false;
+    std::optional<TextEncoding> m_found;
+    QByteArray m_codePage;
+    QByteArray m_sequence;          ///< of UTF-8, cut at the end of a piece
+    std::unique_ptr<Guess> m_guess; ///< from the piece on that isn't UTF-8
+    qsizetype m_guessed = 0;        ///< bytes that the guess was given
+    bool m_first = true;
 };
 
 /// The length of the byte order mark that `bytes` begin with and its encoding, none when there is
@@ -113,8 +107,8 @@ public:
 
 private:
     QStringEncoder m_encoder;
-    bool m_everything;
-    std::vector<char> m_bytes;
+    bool m_unicode;
+    QByteArray m_bytes; ///< kept from call to call for its memory
 };
 
 } // namespace kavro

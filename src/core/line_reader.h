@@ -4,11 +4,12 @@
 #include "core/file_status.h"
 
 #include <QByteArray>
-#include <QFile>
+#include <QIODevice>
 #include <QString>
 #include <QStringDecoder>
 #include <QStringView>
 
+#include <memory>
 #include <optional>
 
 namespace kavro {
@@ -55,29 +56,31 @@ public:
 
 private:
     bool openFile(const QString &path);
-    bool spoolPipe();
+    bool keepPipe();
     bool examine(const ReadOptions &options);
-    qsizetype readBytes();
+    bool examinePieces(EncodingDetector *detector, bool mayHoldNul);
+    bool readPiece();
     void startDecoding();
     void refill();
     qsizetype findLineEnd();
     void fail(FileFault fault, const QString &text);
 
-    QFile m_file;
+    std::unique_ptr<QIODevice> m_device;
     FileStatus m_status;
     TextEncoding m_encoding;
+    qsizetype m_markLength = 0;
     QStringDecoder m_decoder;
-    QByteArray m_bytes; ///< one piece of the file, its first `m_byteCount` bytes
-    qsizetype m_byteCount = 0;
-    QString m_text;      ///< decoded and not yet handed out from `m_pos` on
-    QString m_spentText; ///< the piece before; the last line handed out may lie in it
+    QByteArray m_piece; ///< of the file; its first `m_pieceSize` bytes
+    qsizetype m_pieceSize = 0;
+    bool m_firstPiece = false; ///< `m_piece` is the file's first and was not decoded yet
+    bool m_bytesRead = true;   ///< behind `m_piece` the file has no more
+    QString m_text;            ///< decoded, and not handed out from `m_pos` on
+    QString m_spentText;       ///< the text before; the last line handed out may lie in it
     qsizetype m_pos = 0;
-    qsizetype m_nextCr = 0; ///< the first CR at or behind `m_pos`, the text's size when it has none
-    qsizetype m_nextLf = 0;
-    bool m_fileRead = true;     ///< all bytes are in `m_text`
-    bool m_wholeInText = false; ///< `m_text` begins with the file's first line and holds the last
-    bool m_skipLf =
-        false; ///< the text ended in a CR; an LF at the head of what follows belongs to it
+    qsizetype m_nextCr = -1; ///< at or behind `m_pos`, or the text's size; older when below `m_pos`
+    qsizetype m_nextLf = -1;
+    bool m_wholeText = false; ///< `m_text` holds the file from its first line to its last
+    bool m_skipLf = false; ///< a CR ended the text: an LF at the head of what follows belongs to it
 };
 
 } // namespace kavro

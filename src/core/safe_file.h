@@ -28,7 +28,10 @@ public:
     /// Deletes a file; one that isn't there is no fault.
     FileStatus remove(const QString &path);
 
-    /// Copies the bytes of a file; `to` is replaced.
+    /// Deletes a folder with all that is in it; one that isn't there is no fault.
+    FileStatus removeFolder(const QString &path);
+
+    /// Copies the bytes of a file; `to` is replaced, and is gone when that fails.
     FileStatus copy(const QString &from, const QString &to);
 
 private:
@@ -70,19 +73,20 @@ public:
 
 private:
     bool openBeside(const QString &target);
-    bool openStraight(const QString &path, QIODevice::OpenMode mode);
+    bool openAs(const QString &path, QIODevice::OpenMode mode);
     bool flush();
-    bool writeBytes(const char *bytes, qint64 count);
+    bool writeBytes();
     bool putInPlace();
+    void discard();
     bool fail(FileFault fault, const QString &text);
-    bool failWithErrno(int code);
+    bool failDevice();
 
     FileStore &m_store;
     QFile m_file;
     QString m_target; ///< what `m_file` is renamed to in the end; empty when written straight
     std::optional<TextEncoder> m_encoder;
-    QString m_text;     ///< not yet encoded
-    QByteArray m_bytes; ///< encoded, not yet written
+    QString m_text;     ///< not encoded yet
+    QByteArray m_bytes; ///< encoded, not written yet
     FileStatus m_status;
 };
 
