@@ -70,9 +70,9 @@ bool Grid::setText(int row, int col, const QString &text)
 void Grid::setAllRows(const QList<GridRow> &rows)
 {
     m_rows = rows;
-    for (qsizetype i = 0; i < m_rows.size(); ++i) {
-        if (m_rows.at(i).size() != m_cols) {
-            m_rows[i].resize(m_cols);
+    for (GridRow &row : m_rows) {
+        if (row.size() != m_cols) {
+            row.resize(m_cols);
         }
     }
     if (m_rows.isEmpty()) {
