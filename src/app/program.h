@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/document_host.h"
 #include "app/file_commands.h"
 #include "app/navigation.h"
 #include "app/settings_files.h"
@@ -7,6 +8,7 @@
 #include "controls/form.h"
 #include "core/clipboard_panel.h"
 #include "core/control_window.h"
+#include "core/diagnose_host.h"
 #include "core/document.h"
 #include "core/edit_history.h"
 #include "core/editor_page.h"
@@ -108,6 +110,8 @@ public:
     SubtitleDocument document;
     SubtitleWriter writer;
     NodeFile nodeFile;
+    DiagnoseHost diagnose;
+    DocumentHost host;
     SubtitleLoader loader;
     BasicEdit basicEdit;
     FileCommands fileCommands;
@@ -118,7 +122,20 @@ public:
     HelpWindow help;
 
 private:
+    struct StartStep;
+    static const StartStep startSteps[];
+    void runStartSteps(bool forVerb);
+    void fillFormatLists();
+    void fillLanguageLists();
+    void fillFonts();
+    void setInitialTabs();
+    void loadNamedFile();
+    void loadLastFiles();
+    void connectMenu();
+    void splashLeft();
+
     QList<Form *> m_forms;
+    QString m_file; ///< the file of the command line
     bool m_ended = false;
     bool m_forVerb = false;
 };

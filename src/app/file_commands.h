@@ -1,0 +1,100 @@
+#pragma once
+
+#include "app/file_window.h"
+#include "core/encoding.h"
+#include "formats/create_subfile.h"
+#include "formats/load_subfile.h"
+
+#include <QString>
+
+namespace kavro {
+
+class DiagnoseHost;
+class EditHistory;
+class LanguageTable;
+class Navigation;
+class NodeFile;
+class SubtitleDocument;
+struct ClipboardPanel;
+struct FontLists;
+struct FormatLists;
+struct MainMenu;
+struct PartitionPage;
+struct SettingsPage;
+struct StatusPanels;
+
+/// The commands of the File menu, and the naming of the document.
+class FileCommands
+{
+public:
+    /// All are borrowed and outlive the commands.
+    struct Parts
+    {
+        const Ports &ports;
+        SubtitleDocument &document;
+        SubtitleLoader &loader;
+        SubtitleWriter &writer;
+        NodeFile &nodeFile;
+        EditHistory &history;
+        DiagnoseHost &diagnose;
+        Navigation &navigation;
+        MainMenu &menu;
+        FormatLists &formats;
+        FontLists &fonts;
+        ClipboardPanel &clipboard;
+        PartitionPage &partition;
+        StatusPanels &status;
+        SettingsPage &settings;
+        Messages &messages;
+        const LanguageTable &language;
+        Folders &folders;
+        ActionTrace &trace;
+    };
+
+    FileCommands(Form &frmMain, Form &frmFile, const Parts &parts);
+
+    void mnuNewFile();
+    void mnuLoadFile();
+    void mnuAddFile();
+    /// Writes at once, without a question, where the document came from or went to this file in
+    /// this format; else it is `mnuSavesubfile`. True when the file was written.
+    bool mnuSave();
+    /// Asks for a name and a format. True when the file was written.
+    bool mnuSavesubfile();
+    /// Asks for a name and writes nothing.
+    void mnuSaveSettings();
+    void mnuPrint();
+    /// Reads the document's file again in the encoding of that entry of `lstEncoding`. Asks about
+    /// changes as any load does.
+    void mnuReopen(int entry);
+
+    /// The load command on that path, without the file window.
+    void dropFile(const QString &path);
+
+    /// Names the document: the path with its extension replaced by the format's.
+    void SetFileName(const QString &path, int formatId);
+    /// Names the document by the path as it stands, and writes its name in the window's places.
+    void nameDocument(const QString &path, int formatId);
+    /// Writes rows 1 to `lastRow` to a path whose extension the format sets, unless `literal`.
+    /// Only a write that succeeded names the document, clears its changes and stores its nodes.
+    WriteResult WriteSubtitleFile(const QString &path, int formatId, int lastRow,
+                                  bool literal = false, bool askOverwrite = true);
+    /// Enables what needs a document.
+    void EnableDocumentCommands();
+    /// The encoding of the document goes into the status bar and `lstEncoding`.
+    void showEncoding();
+
+    FileWindowState window;
+    ListBox lstEncoding; ///< "Reopen as": a pick reads the file again, `mnuReopen` repeats it
+
+private:
+    void connectMenu();
+    void loadPath(const QString &path, int format);
+    QString readSettingFile(const QString &path);
+    void fillFileProperties();
+    bool mayLoseChanges();
+
+    Parts m_parts;
+};
+
+} // namespace kavro

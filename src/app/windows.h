@@ -1,0 +1,5 @@
+#pragma once
+
+#include "app/help_window.h"
+#include "app/splash_window.h"
+#include "app/tip_window.h"
