@@ -76,10 +76,11 @@ private:
     bool m_first = true;
 };
 
-/// The length of the byte order mark that `bytes` begin with and its encoding, none when there is
-/// none.
+/// The encoding whose byte order mark `bytes` begin with.
 std::optional<TextEncoding> encodingByMark(QByteArrayView bytes);
-QByteArray markOf(const TextEncoding &encoding);
+
+/// The byte order mark of an encoding's name; empty when it has none.
+QByteArrayView markOf(const QByteArray &name);
 
 /// Turns text into the bytes of one file, piece after piece.
 class TextEncoder

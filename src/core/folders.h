@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/file_status.h"
+#include "core/paths.h"
 
 #include <QLockFile>
 #include <QString>
@@ -12,6 +13,9 @@
 namespace kavro {
 
 class FileStore;
+
+// The application folder and what stands in it. Names that are there are met in any case of
+// letters.
 
 /// The folders of the application folder.
 enum class Folder {
@@ -61,72 +65,50 @@ public:
     Folders(const Folders &) = delete;
     Folders &operator=(const Folders &) = delete;
 
-    /// Makes and fills the application folder when it is new, adds what an update brought without
-    /// touching a file that is there, takes the lock on the temporary files and tidies them.
+    /// Makes and fills the application folder when it is new, adds what an update of the program
+    /// brought without touching a file that is there, takes the lock on the temporary files and
+    /// deletes what an earlier run left of them.
     FileStatus prepare();
 
-    /// Deletes this program's temporary files and its private place, and gives the lock back.
+    /// Deletes this program's temporary files and its private place, and gives the lock back. Runs
+    /// by itself at the end.
     void tidy();
 
-    /// The path of a folder, without a separator at its end, or of a name in it. For a name that is
-    /// read, or shown: with the private place in use it leads to the shipped file as long as no
-    /// other was written. `name` may be a relative path with "\" or "/".
+    /// The path of a folder, without a separator at its end, or of a name in it, to read or to
+    /// show. With the private place in use it leads to the shipped file until another was written
+    /// there. `name` may be a relative path with "\" or "/".
     [[nodiscard]] QString path(Folder folder, QStringView name = {}) const;
 
     /// The path to write a name at. With `FolderUse::Shipped` it lies in the private place.
     [[nodiscard]] QString writablePath(Folder folder, QStringView name = {}) const;
 
-    /// Makes the folder of a path when it lies in the application folder or the private place; a
-    /// path elsewhere is left alone. To be called ahead of a write.
+    /// Makes the folder of a path that lies in the application folder or the private place; a path
+    /// elsewhere is left alone. To be called ahead of a write.
     FileStatus makeRoomFor(const QString &path);
 
     /// The names of the files in a folder that match one of the patterns ("*.sub;*.srt"), in any
-    /// case, sorted by name without regard to case.
+    /// case, sorted without regard to case.
     [[nodiscard]] QStringList files(Folder folder, QStringView patterns) const;
 
-    /// Where files are shipped; empty when they were not found.
+    /// Where the program's own files are shipped; empty when they were not found.
     [[nodiscard]] const QString &shipped() const { return m_shipped; }
 
 private:
     void chooseRoot(const FolderSources &sources, FolderUse use);
     FileStatus fill();
     void lockTemporary();
+    void clearTemporary();
+    [[nodiscard]] QString place(const QString &root, Folder folder, QStringView name) const;
     [[nodiscard]] bool hasPrivatePlace() const { return m_root != m_written; }
 
     FileStore &m_store;
     QString m_shipped;
     QString m_root;      ///< where files are read
     QString m_written;   ///< where they are written: the same, or the private place
-    QString m_runFolder; ///< name of the own folder inside the temporary ones, empty for the first
-                         ///< program
+    QString m_runFolder; ///< the own folder inside the temporary ones, none for the first program
     bool m_mayFill = false;
+    bool m_placeMade = false; ///< the private place
     std::unique_ptr<QLockFile> m_lock;
 };
-
-/// A path cut behind its last separator.
-struct SplitPath
-{
-    QStringView folder; ///< with the separator at its end, empty when there is none
-    QStringView name;
-};
-
-// A path that begins with "/" is one of this machine and only "/" separates its folders; in any
-// other, from a stored file or a macro, "\" does so too.
-
-SplitPath splitPath(QStringView path);
-QStringView folderOf(QStringView path);
-QStringView nameOf(QStringView path);
-
-/// A path from a stored file or a macro as this machine takes it. One that leads to a file as it
-/// stands is left so.
-QString toNative(QStringView stored);
-
-/// `name` in `folder` as it is spelled there: exact when it is there so, else in any case of
-/// letters, else as given. Each part of a relative `name` is met in this way.
-QString matchName(const QString &folder, QStringView name);
-
-/// The names of the files in any folder that match one of the patterns ("*.sub;*.srt"), in any
-/// case, sorted without regard to case.
-QStringList filesIn(const QString &folder, QStringView patterns);
 
 } // namespace kavro

@@ -172,7 +172,7 @@ QString SecondsToTimeCode(QStringView text)
         return value < 10 ? u'0' + QString::number(value) : QString::number(value);
     };
     return field(seconds / 3600) + u':' + field(seconds / 60 % 60) + u':' + field(seconds % 60)
-           + u',' + Right(fraction, 3);
+           + u',' + fraction.last(3);
 }
 
 } // namespace kavro

@@ -1,0 +1,280 @@
+#include "core/safe_file.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRandomGenerator>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <system_error>
+
+using namespace Qt::StringLiterals;
+
+namespace kavro {
+
+namespace {
+
+constexpr qsizetype flushLength = 1 << 16;
+constexpr int mostLinks = 40;
+
+QString describe(int code)
+{
+    return QString::fromStdString(std::generic_category().message(code));
+}
+
+FileStatus faultOf(const QFileDevice &file)
+{
+    const bool full = file.error() == QFileDevice::ResourceError;
+    return {.fault = full ? FileFault::DiskFull : FileFault::Unwritable,
+            .text = file.errorString()};
+}
+
+FileStatus diskFull()
+{
+    return {.fault = FileFault::DiskFull, .text = describe(ENOSPC)};
+}
+
+bool renameOver(const QString &from, const QString &to)
+{
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+}
+
+/// Where a name leads, through links, also to a file that isn't there yet.
+struct Destination
+{
+    QString path;
+    bool straight = false; ///< a device, a pipe, or a file that somebody holds open for us
+    bool circle = false;   ///< the links lead nowhere
+};
+
+Destination destinationOf(const QString &path)
+{
+    QString at = path;
+    for (int hop = 0; hop < mostLinks; ++hop) {
+        const QFileInfo info(at);
+        // "/dev/stdout" may lead to a regular file, which a shell goes on appending to.
+        if (at.startsWith("/proc/"_L1))
+            return {.path = path, .straight = true};
+        if (!info.isSymLink())
+            return {.path = at, .straight = info.exists() && !info.isFile() && !info.isDir()};
+        // ".." in a link counts from the true folder of the link.
+        at = QFileInfo(info.canonicalPath() + u'/' + info.fileName()).symLinkTarget();
+    }
+    return {.path = path, .circle = true};
+}
+
+/// The new file belongs to whom the old one belonged, where we may do that.
+void takeOver(QFile &file, const QFileInfo &old)
+{
+    if (old.ownerId() != ::geteuid() || old.groupId() != ::getegid()) [[maybe_unused]]
+        const int ignored = ::fchown(file.handle(), old.ownerId(), old.groupId());
+    file.setPermissions(old.permissions());
+}
+
+} // namespace
+
+qint64 FileStore::take(qint64 wanted)
+{
+    if (!m_freeBytes)
+        return wanted;
+    const qint64 taken = std::min(wanted, *m_freeBytes);
+    *m_freeBytes -= taken;
+    return taken;
+}
+
+FileStatus FileStore::makeFolder(const QString &path)
+{
+    if (QDir().mkpath(path))
+        return {};
+    return {.fault = FileFault::Unwritable, .text = describe(errno)};
+}
+
+FileStatus FileStore::remove(const QString &path)
+{
+    QFile file(path);
+    const bool gone = file.remove() || !file.exists();
+    return gone ? FileStatus{} : faultOf(file);
+}
+
+FileStatus FileStore::removeFolder(const QString &path)
+{
+    QDir folder(path);
+    if (!folder.exists() || folder.removeRecursively())
+        return {};
+    return {.fault = FileFault::Unwritable, .text = describe(errno)};
+}
+
+FileStatus FileStore::copy(const QString &from, const QString &to)
+{
+    QFile source(from);
+    if (!source.open(QIODevice::ReadOnly))
+        return {.fault = FileFault::Unreadable, .text = source.errorString()};
+    QFile copy(to);
+    if (!copy.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
+        return faultOf(copy);
+    FileStatus status;
+    while (status.ok() && !source.atEnd()) {
+        const QByteArray part = source.read(flushLength);
+        const qint64 taken = take(part.size());
+        if (copy.write(part.constData(), taken) != taken)
+            status = faultOf(copy);
+        else if (taken < part.size())
+            status = diskFull();
+    }
+    if (status.ok() && source.error() != QFileDevice::NoError)
+        status = {.fault = FileFault::Unreadable, .text = source.errorString()};
+    if (!status.ok())
+        copy.remove();
+    return status;
+}
+
+FileWriter::FileWriter(FileStore &store) : m_store(store) {}
+
+FileWriter::~FileWriter()
+{
+    discard();
+}
+
+const FileStatus &FileWriter::open(const QString &path, const TextEncoding &encoding,
+                                   WriteMode mode)
+{
+    discard();
+    m_status = {};
+    m_text.resize(0);
+    m_bytes.resize(0);
+    m_encoder.emplace(encoding);
+    const Destination destination = destinationOf(path);
+    if (destination.circle)
+        fail(FileFault::Unwritable, describe(ELOOP));
+    else if (destination.straight)
+        openAs(destination.path, QIODevice::Append);
+    else if (mode == WriteMode::Plain)
+        openAs(path, QIODevice::Truncate);
+    else
+        openBeside(destination.path);
+    return m_status;
+}
+
+bool FileWriter::openBeside(const QString &target)
+{
+    const QFileInfo old(target);
+    if (old.isDir())
+        return fail(FileFault::Folder, describe(EISDIR));
+    // The rename would pass over a write protection that a person has set.
+    if (old.exists() && !old.isWritable())
+        return fail(FileFault::Unwritable, describe(EACCES));
+    const QString name =
+        u"/.kavro-%1"_s.arg(QRandomGenerator::system()->generate64(), 16, 16, QChar(u'0'));
+    if (!openAs(old.absolutePath() + name, QIODevice::NewOnly))
+        return false;
+    m_target = target;
+    if (old.exists())
+        takeOver(m_file, old);
+    return true;
+}
+
+bool FileWriter::openAs(const QString &path, QIODevice::OpenMode mode)
+{
+    m_file.setFileName(path);
+    if (m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered | mode))
+        return true;
+    m_status = faultOf(m_file);
+    return false;
+}
+
+bool FileWriter::write(QStringView text)
+{
+    if (!m_status.ok())
+        return false;
+    m_text.append(text);
+    return m_text.size() < flushLength || flush();
+}
+
+bool FileWriter::writeLine(QStringView line)
+{
+    if (!m_status.ok())
+        return false;
+    m_text.append(line);
+    m_text.append(u"\r\n");
+    return m_text.size() < flushLength || flush();
+}
+
+bool FileWriter::flush()
+{
+    if (!m_encoder->append(m_text, m_bytes)) {
+        discard();
+        return fail(FileFault::Unencodable, u"the encoding lacks a character of the text"_s);
+    }
+    m_text.resize(0);
+    return writeBytes();
+}
+
+bool FileWriter::writeBytes()
+{
+    const qint64 taken = m_store.take(m_bytes.size());
+    const char *at = m_bytes.constData();
+    for (qint64 left = taken; left > 0;) {
+        const qint64 written = m_file.write(at, left);
+        if (written <= 0)
+            return failDevice();
+        at += written;
+        left -= written;
+    }
+    if (taken < m_bytes.size())
+        return fail(FileFault::DiskFull, diskFull().text);
+    m_bytes.resize(0);
+    return true;
+}
+
+const FileStatus &FileWriter::commit()
+{
+    if (m_status.ok() && flush())
+        putInPlace();
+    return m_status;
+}
+
+bool FileWriter::putInPlace()
+{
+    if (m_target.isEmpty()) {
+        m_file.close();
+        return m_file.error() == QFileDevice::NoError || failDevice();
+    }
+    // Without it a crash of the machine could leave the new name with no content behind it.
+    if (::fdatasync(m_file.handle()) != 0)
+        return fail(FileFault::Unwritable, describe(errno));
+    m_file.close();
+    if (!renameOver(m_file.fileName(), m_target))
+        return fail(FileFault::Unwritable, describe(errno));
+    m_target.clear();
+    return true;
+}
+
+void FileWriter::discard()
+{
+    m_file.close();
+    if (!m_target.isEmpty())
+        m_store.remove(m_file.fileName());
+    m_target.clear();
+}
+
+bool FileWriter::failDevice()
+{
+    const FileStatus status = faultOf(m_file);
+    return fail(status.fault, status.text);
+}
+
+bool FileWriter::fail(FileFault fault, const QString &text)
+{
+    m_status = {.fault = fault, .text = text};
+    m_file.close();
+    if (!m_target.isEmpty())
+        renameOver(m_file.fileName(), m_target + ".part"_L1);
+    m_target.clear();
+    return false;
+}
+
+} // namespace kavro
