@@ -1,9 +1,10 @@
 #pragma once
 
 #include <QString>
-#include <QtAssert>
+#include <QtGlobal>
 
 #include <array>
+#include <cstddef>
 #include <utility>
 
 namespace kavro {
@@ -47,7 +48,7 @@ private:
         : m_items{T(form, name, First + Offsets)...}
     {}
 
-    std::array<T, Last - First + 1> m_items;
+    std::array<T, static_cast<std::size_t>(Last - First + 1)> m_items;
 };
 
 } // namespace kavro

@@ -17,7 +17,10 @@ public:
 
     /// Shows the window with an empty log and bar under that caption, unless `quiet`.
     void open(const QString &caption);
+    /// Adds to the end of the log; line breaks are the caller's.
     void append(const QString &text);
+    /// Another caption in the midst of an operation.
+    void setCaption(const QString &caption);
     /// Hides the window if the setting says so; else it stays until its button is pressed.
     void finish();
 

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "controls/control.h"
 #include "core/action_trace.h"
 #include "core/encoding.h"
 
 #include <QObject>
 #include <QString>
-#include <QStringList>
+#include <QStringView>
 
 #include <array>
 #include <vector>
@@ -85,28 +86,35 @@ public:
     std::array<QString, 6> gridColCaption;
     void fillColumnCaptions();
 
-    /// Two rows, the second empty. Touches no side store.
+    /// Two rows, the second empty. Touches no side store and leaves the panels as they are.
     void ClearGrid();
-    /// Three rows, one empty subtitle, one node; what stood in the side stores is gone.
+    /// Three rows, one empty subtitle, one node, and that subtitle current and shown; what stood in
+    /// the side stores is gone. The document has no encoding and no file of its own any more; its
+    /// name and `fileChanged` are the caller's.
     void startNew();
     /// Takes findings and cell colours away: the start of a load or a new document.
     void clearFindings();
-    /// Shows the current row in the panels; runs at each change of the current cell.
+    /// Shows the current row in the panels; runs at each change of the current cell, and does
+    /// nothing while `editorBlocked`.
     void RefreshCurrentRow();
-    /// Shows one line of the current row in preview line `index`, 0 to 2, trimmed on the left.
+    /// Shows one line of the current row in preview line `index`, 0 to 2, trimmed on the left and
+    /// in the style of row `curRow`, and selects that row's font and style in their lists.
     void subShowSubtitle(const QString &text, int index);
-    /// Fills the player's list with one entry a subtitle.
+    /// Fills the player's list with one entry a subtitle and sets `subtitleChanged`.
     void BuildPlayerList();
-    /// Paints the marks of all nodes by row and column, then sets the grid's top row. Nodes behind
-    /// the end of the grid are dropped.
+    /// Paints the marks of all nodes by row and column, then sets the grid's top row. A node that
+    /// begins behind the end of the grid becomes the last one; marks stand on subtitles alone.
     void ShowNodeMarks(int topRow);
     /// The cells of every node back to plain numbers and no colour.
     void clearNodeMarks();
     /// The font entry of a row; empty for a row without one.
     [[nodiscard]] QString fontEntry(int row) const;
-    /// "Arial;Western;" + the regular word + ";16", or with another font, style and size.
+    /// font + ";Western;" + style + ";" + size. An empty font is "Arial", an empty style the
+    /// regular one; an empty size stays empty.
     [[nodiscard]] QString makeFontEntry(const QString &font, const QString &style,
                                         const QString &size) const;
+    /// The entry of a row whose file tells nothing: "Arial;Western;Regular;16".
+    [[nodiscard]] QString regularFontEntry() const;
 
     EditorPage &editor;
     TimePage &times;
@@ -121,11 +129,26 @@ signals:
 private:
     void connectGrid();
     void connectCellEditor();
+    void connectEditBox();
+
+    void showPosition();
     void showRowTexts();
+    void showCellTools();
     void showFinding();
     void enableRowCommands();
+    void showLine(QStringView text, int index, QStringView style);
+    void selectFont(QStringView font, QStringView style);
+
+    void enterCellEditor();
+    void pressInCellEditor(Key key);
+    void changeCell();
+    void dropCellEdit();
+    void showCellEditor();
     void hideCellTools();
-    void endCellEdit(bool keep);
+    [[nodiscard]] bool isCellTool(const Control *control) const;
+
+    void markNode(const Node &node);
+    [[nodiscard]] bool isSubtitle(int row) const;
 
     SettingsPage &m_settings;
     const LanguageTable &m_language;

@@ -13,7 +13,7 @@ class LanguageTable;
 struct ActionTrace;
 struct MacroVariables;
 
-/// A message's text: a template in the program's own words, and what is put in for %1, %2, ...
+/// A message's text: a template in the program's own words, and what is put in for %1 to %9.
 ///
 /// "/n" and variables are expanded in the template alone, never in a path, a line of a file or a
 /// fault's description that is put in.
@@ -35,7 +35,9 @@ public:
     Messages(Form &frmMessageBox, MessageWindow &window, ActionTrace &trace,
              MacroVariables &variables);
 
-    /// Shows a message and waits. Records code 30.
+    /// Shows a message and waits. Records code 30. The form is open meanwhile, and `cmdAction` may
+    /// be clicked in place of the window's reply: both do the same. A reply that the message
+    /// doesn't offer counts as its safest answer.
     ///
     /// @param kind   words "cancel", "ok", "no", "yes" in any combination, such as "yesnocancel"
     /// @return       the answer, which `msgResult` keeps
@@ -58,14 +60,17 @@ public:
     ControlArray<Label, 0, 1> Label2;     ///< captions of the two fields
 
 private:
-    void placeButtons(const Message &message);
+    void fillWindow(const Message &message);
+    void take(const Message &message, const MessageReply &reply);
     void answer(Answer answer);
+    [[nodiscard]] QString freeVariableName() const;
     void storeInput();
 
     Form &m_form;
     MessageWindow &m_window;
     ActionTrace &m_trace;
     MacroVariables &m_variables;
+    bool m_answered = false; ///< a button of the message that shows was clicked
 };
 
 } // namespace kavro
