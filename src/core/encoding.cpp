@@ -320,7 +320,7 @@ bool TextEncoder::append(QStringView text, QByteArray &bytes)
 }
 
 EncodingCheck::EncodingCheck(const TextEncoding &encoding)
-    : m_encoder(encoding.name.constData()), m_unicode(isUnicode(encoding.name))
+    : m_name(encoding.name), m_encoder(m_name.constData()), m_unicode(isUnicode(encoding.name))
 {}
 
 bool EncodingCheck::holds(QStringView text)
@@ -335,7 +335,7 @@ bool EncodingCheck::holds(QStringView text)
     m_encoder.appendToBuffer(m_bytes.data(), text);
     const bool held = !m_encoder.hasError();
     if (!held)
-        m_encoder.resetState();
+        m_encoder = QStringEncoder(m_name.constData());
     return held;
 }
 

@@ -107,6 +107,7 @@ public:
     bool holds(QStringView text);
 
 private:
+    QByteArray m_name;
     QStringEncoder m_encoder;
     bool m_unicode;
     QByteArray m_bytes; ///< kept from call to call for its memory

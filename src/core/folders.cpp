@@ -206,21 +206,30 @@ void Folders::lockTemporary()
     }
 }
 
-void Folders::clearTemporary()
+void Folders::removeFiles(const QString &folder)
 {
-    const QString folder = path(Folder::Temporary);
     for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::Hidden)) {
         if (name != lockName)
             m_store.remove(folder + u'/' + name);
     }
+}
+
+void Folders::clearTemporary()
+{
+    const QString folder = path(Folder::Temporary);
+    removeFiles(folder);
     if (!m_runFolder.isEmpty())
         return;
     for (const QStringView name : driveFiles)
         m_store.remove(path(Folder::DriveRoot, name));
     for (const QString &name : QDir(folder).entryList({runPrefix + u"*"_s}, QDir::Dirs)) {
         // What can be locked was left by a program that ended without its exit.
-        if (const auto left = tryLock(folder + u'/' + name))
-            m_store.removeFolder(folder + u'/' + name);
+        auto left = tryLock(folder + u'/' + name);
+        if (!left)
+            continue;
+        removeFiles(folder + u'/' + name);
+        left.reset();
+        QDir().rmdir(folder + u'/' + name);
     }
 }
 
@@ -235,7 +244,7 @@ void Folders::tidy()
     const QString own = m_runFolder.isEmpty() ? QString() : path(Folder::Temporary);
     m_lock.reset();
     if (!own.isEmpty())
-        m_store.removeFolder(own);
+        QDir().rmdir(own);
 }
 
 QString Folders::place(const QString &root, Folder folder, QStringView name) const

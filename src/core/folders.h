@@ -37,11 +37,11 @@ enum class Folder {
 /// Where the application folder may be; all but the first come from the machine.
 struct FolderSources
 {
-    QString appDir;           ///< --app-dir, empty when not given
-    QString home;             ///< KAVRO_HOME
-    QString executableFolder; ///< where the program stands
-    QString userData;         ///< the user's folder for this program's data
-    QString temporary;        ///< the machine's folder of temporary files
+    QString appDir = {};           ///< --app-dir, empty when not given
+    QString home = {};             ///< KAVRO_HOME
+    QString executableFolder = {}; ///< where the program stands
+    QString userData = {};         ///< the user's folder for this program's data
+    QString temporary = {};        ///< the machine's folder of temporary files
 
     /// Asks the environment; `executable` is the program's own path.
     static FolderSources ofMachine(const QString &appDir, const QString &executable);
@@ -98,6 +98,7 @@ private:
     FileStatus fill();
     void lockTemporary();
     void clearTemporary();
+    void removeFiles(const QString &folder);
     [[nodiscard]] QString place(const QString &root, Folder folder, QStringView name) const;
     [[nodiscard]] bool hasPrivatePlace() const { return m_root != m_written; }
 

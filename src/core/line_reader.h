@@ -17,8 +17,8 @@ namespace kavro {
 /// What decides a file's encoding besides its bytes.
 struct ReadOptions
 {
-    std::optional<TextEncoding> encoding; ///< a person's choice: taken whatever the bytes say
-    QByteArray codePage; ///< the setting's, for bytes that are not UTF-8; empty when off
+    std::optional<TextEncoding> encoding = {}; ///< a person's choice: taken whatever the bytes say
+    QByteArray codePage = {}; ///< the setting's, for bytes that are not UTF-8; empty when off
 };
 
 /// Reads a text file line by line in constant memory. CR LF, LF and CR all end a line; the last

@@ -62,7 +62,8 @@ Destination destinationOf(const QString &path)
         if (!info.isSymLink())
             return {.path = at, .straight = info.exists() && !info.isFile() && !info.isDir()};
         // ".." in a link counts from the true folder of the link.
-        at = QFileInfo(info.canonicalPath() + u'/' + info.fileName()).symLinkTarget();
+        const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
+        at = QFileInfo(folder + u'/' + info.fileName()).symLinkTarget();
     }
     return {.path = path, .circle = true};
 }
@@ -76,6 +77,11 @@ void takeOver(QFile &file, const QFileInfo &old)
 }
 
 } // namespace
+
+bool isWrittenStraight(const QString &path)
+{
+    return destinationOf(path).straight;
+}
 
 qint64 FileStore::take(qint64 wanted)
 {
@@ -148,10 +154,10 @@ const FileStatus &FileWriter::open(const QString &path, const TextEncoding &enco
     m_bytes.resize(0);
     m_encoder.emplace(encoding);
     const Destination destination = destinationOf(path);
-    if (destination.circle)
-        fail(FileFault::Unwritable, describe(ELOOP));
+    if (path.isEmpty() || destination.circle)
+        fail(FileFault::Unwritable, describe(path.isEmpty() ? ENOENT : ELOOP));
     else if (destination.straight)
-        openAs(destination.path, QIODevice::Append);
+        openAs(path, QFileInfo(path).isFile() ? QIODevice::Append : QIODevice::Truncate);
     else if (mode == WriteMode::Plain)
         openAs(path, QIODevice::Truncate);
     else

@@ -38,6 +38,10 @@ private:
     std::optional<qint64> m_freeBytes;
 };
 
+/// True for a name that leads to a device, a pipe, or a file that somebody holds open for us: what
+/// is written there goes straight in, whatever stands there.
+bool isWrittenStraight(const QString &path);
+
 enum class WriteMode {
     Replace, ///< the name leads to the old file until the new one is complete
     Plain,   ///< straight into the file: snapshots, previews
