@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 
 namespace kavro {
 
@@ -18,6 +19,10 @@ QString filterLabel(int filter);
 
 /// The text of an entry from its last "." on: ".srt". Empty for an entry that isn't there.
 QString filterExtension(int filter);
+
+/// `path` with all behind the last "." of its name replaced by `extension`, which begins with its
+/// point; a name without a point gets it at its end.
+QString withExtension(const QString &path, QStringView extension);
 
 /// The patterns of the hidden list that looks for a subtitle beside a movie.
 QString subtitlePatterns();

@@ -14,6 +14,7 @@ class LanguageTable;
 class Messages;
 class SubtitleDocument;
 class Clock;
+class NodeFile;
 struct FormatLists;
 struct MainMenu;
 struct SettingsPage;
@@ -23,7 +24,8 @@ class LoadHost
 {
 public:
     virtual ~LoadHost() = default;
-    /// Opens a movie in the player and brings its page to the front; false when nothing plays.
+    /// Opens a movie in the player and brings its page to the front; false when nothing plays,
+    /// which the host tells the person.
     virtual bool openMovie(const QString &path) = 0;
     /// Seconds.
     [[nodiscard]] virtual double movieDuration() const = 0;
@@ -65,7 +67,7 @@ struct LoadResult
     };
 
     Kind kind = Kind::Failed;
-    QString error;
+    QString error = {};
     int skippedLines = 0; ///< lines or pieces of lines that had no place
 
     [[nodiscard]] bool ok() const
@@ -91,6 +93,7 @@ public:
         Folders &folders;
         Clock &clock;
         LoadHost &host;
+        NodeFile &nodeFile;
     };
 
     explicit SubtitleLoader(const Parts &parts);

@@ -2,12 +2,15 @@
 
 #include <QString>
 
+#include <vector>
+
 namespace kavro {
 
 class FileStore;
 class Folders;
 class Messages;
 class SubtitleDocument;
+struct Node;
 
 /// The control file that keeps a document's nodes between runs: `subBaseName`.sdf in the folder of
 /// nodes.
@@ -25,12 +28,15 @@ public:
     /// safe.
     void SaveSubControl(const QString &path);
 
-    /// Reads the nodes of the loaded document. Without a file, with one of another path or a
-    /// damaged one, the document has one node over all its rows.
+    /// Reads the nodes of the loaded document, fitted to its rows. Without a file, with one of
+    /// another path or a damaged one, the document has one node over all its rows.
     void load();
 
 private:
-    void setSingleNode();
+    /// The nodes as the file tells them; none when it isn't there, isn't this document's or is
+    /// damaged.
+    std::vector<Node> read();
+    [[nodiscard]] QString fileName() const;
 
     SubtitleDocument &m_document;
     Folders &m_folders;

@@ -9,8 +9,8 @@ class WriteFrame;
 /// What the count pass over a file found.
 struct FileCount
 {
-    int subtitles = 0;   ///< as the format counts; some count lines
-    int headerLines = 0; ///< lines that the read pass skips
+    double subtitles = 0; ///< as the format counts: some count lines, some halves
+    int headerLines = 0;  ///< lines ahead of the first subtitle
 };
 
 /// One subtitle format: its reader and its writer side by side. Formats keep nothing between calls.
@@ -23,7 +23,8 @@ public:
     /// Holds one line at a time.
     [[nodiscard]] virtual FileCount count(LineReader &lines) const = 0;
 
-    /// Reads the subtitles into the document; the frame stands behind the header lines counted.
+    /// Reads the subtitles into the frame, which stands ahead of the first line; the header lines
+    /// that were counted are the format's to skip.
     virtual void read(ReadFrame &frame) const = 0;
 
     virtual void writeHeader(WriteFrame &frame) const;

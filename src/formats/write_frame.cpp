@@ -1,0 +1,79 @@
+#include "formats/write_frame.h"
+
+#include "core/document.h"
+#include "core/editor_page.h"
+#include "core/font_lists.h"
+#include "core/language.h"
+#include "core/text.h"
+#include "core/timecode.h"
+
+namespace kavro {
+
+WriteFrame::WriteFrame(const SubtitleDocument &document, const LanguageTable &language)
+    : m_document(document),
+      m_boldWord(language.text(LangGroup::Common, 26)),
+      m_italicWord(language.text(LangGroup::Common, 27))
+{}
+
+void WriteFrame::startFile(const QString &partOffset)
+{
+    m_text.resize(0);
+    m_partOffset = partOffset;
+    m_outNumber = 0;
+}
+
+void WriteFrame::moveTo(int row)
+{
+    const Grid &grid = m_document.editor.grdSubEdit;
+    ++m_outNumber;
+    m_start = TimeCodeAdd(trimmed(grid.text(row, StartColumn)), m_partOffset, u'-');
+    m_end = TimeCodeAdd(trimmed(grid.text(row, EndColumn)), m_partOffset, u'-');
+    findLines(row);
+    const QString font = m_document.fontEntry(row);
+    m_bold = !m_boldWord.isEmpty() && font.contains(m_boldWord);
+    m_italic = !m_italicWord.isEmpty() && font.contains(m_italicWord);
+}
+
+void WriteFrame::findLines(int row)
+{
+    m_lineCount = 0;
+    for (int column = FirstTextColumn; column <= LastTextColumn; ++column) {
+        const QStringView line = trimmed(m_document.editor.grdSubEdit.text(row, column));
+        if (!line.isEmpty())
+            m_lines[m_lineCount++] = line;
+        else if (column > FirstTextColumn)
+            return;
+    }
+}
+
+std::span<const QStringView> WriteFrame::lines() const
+{
+    return std::span(m_lines).first(m_lineCount);
+}
+
+double WriteFrame::frameRate() const
+{
+    return Val(m_document.frameRate);
+}
+
+QString WriteFrame::selectedFont() const
+{
+    return m_document.fonts.Combo9[0].selectedText();
+}
+
+void WriteFrame::writeLine(QStringView line)
+{
+    put(line);
+    endLine();
+}
+
+void WriteFrame::putLines(QStringView separator)
+{
+    for (std::size_t i = 0; i < m_lineCount; ++i) {
+        if (i > 0)
+            put(separator);
+        put(m_lines[i]);
+    }
+}
+
+} // namespace kavro
