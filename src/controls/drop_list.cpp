@@ -37,8 +37,14 @@ void DropList::setFolded(bool folded)
 
 void DropList::pick(int index)
 {
-    ComboBox::pick(index);
+    if (!m_available || index < 0 || index >= count()) {
+        return;
+    }
+    // Folded ahead of the act's signal, so that who hears it may unfold the list again.
+    setSelected(index);
+    writeLabel();
     setFolded(true);
+    ComboBox::pick(index);
 }
 
 void DropList::show()
@@ -52,7 +58,9 @@ void DropList::show()
 
 void DropList::writeLabel()
 {
-    m_label->setCaption(selectedText());
+    if (m_label) {
+        m_label->setCaption(selectedText());
+    }
 }
 
 } // namespace kavro

@@ -9,8 +9,9 @@ namespace kavro {
 /// A list that is folded away behind a ">>" label and shows its selection in a label beside it.
 ///
 /// Two states: available, set by the rules of format, document or preview, and folded, set by the
-/// toggle and by picking. Unavailable refuses toggle and pick. The list reads enabled while it is
-/// available and unfolded; a list without a toggle stays folded for good, and can be picked.
+/// toggle and by picking. Unavailable refuses toggle and pick, whoever does them. The list reads
+/// enabled while it is available and unfolded; one without a toggle stays folded for good, and can
+/// be picked.
 class DropList : public ComboBox
 {
     Q_OBJECT
@@ -38,6 +39,7 @@ public:
     /// The label beside the list, nullptr when it has none.
     [[nodiscard]] Label *label() { return m_label ? &*m_label : nullptr; }
 
+    /// Act: also writes the label anew and folds the list.
     void pick(int index) override;
 
 private:

@@ -16,8 +16,10 @@ GridRow emptyRow(int cols)
 } // namespace
 
 Grid::Grid(Form &form, const QString &name, int rows, int cols)
-    : Control(form, name), m_rows(rows, emptyRow(cols)), m_cols(cols)
-{}
+    : Control(form, name), m_rows(std::max(rows, 1), emptyRow(cols)), m_cols(cols)
+{
+    fit();
+}
 
 const QString &Grid::text(int row, int col) const
 {
@@ -47,7 +49,7 @@ void Grid::setRows(int count)
         }
     } else if (now < old) {
         m_rows.resize(now);
-        m_colors.removeIf([now](auto it) { return it.key().first >= now; });
+        dropColorsFrom(now);
         if (m_batches == 0) {
             emit rowsRemoved(now, old - now);
         }
@@ -78,6 +80,7 @@ void Grid::setAllRows(const QList<GridRow> &rows)
     if (m_rows.isEmpty()) {
         m_rows.append(emptyRow(m_cols));
     }
+    dropColorsFrom(static_cast<int>(m_rows.size()));
     if (m_batches == 0) {
         emit reset();
     }
@@ -170,13 +173,16 @@ void Grid::clearCellColors()
 
 void Grid::moveTo(int row, int col)
 {
-    m_row = std::clamp(row, 0, rows() - 1);
+    m_row = std::clamp(row, std::min(1, rows() - 1), rows() - 1);
     m_col = std::clamp(col, 0, m_cols - 1);
     emit currentChanged(m_row, m_col);
 }
 
 void Grid::click(int row, int col)
 {
+    if (!has(row, col)) {
+        return;
+    }
     m_mouseRow = row;
     if (row > 0) {
         setCurrent(row, col);
@@ -193,6 +199,11 @@ void Grid::fit()
 {
     setCurrent(m_row, m_col);
     setTopRow(m_topRow);
+}
+
+void Grid::dropColorsFrom(int row)
+{
+    m_colors.removeIf([row](auto it) { return it.key().first >= row; });
 }
 
 void Grid::changed(int row, int col)

@@ -57,9 +57,10 @@ public:
     void setCellColor(int row, int col, Color color);
     void clearCellColors();
 
-    /// Act: the user moves the current cell.
+    /// Act: the user moves the current cell, which never comes to the header.
     void moveTo(int row, int col);
-    /// Act: the user clicks a cell. A click on the header moves nothing.
+    /// Act: the user clicks a cell. A click on the header moves nothing; outside the table there is
+    /// nothing to click.
     void click(int row, int col);
     /// Act: the user scrolls.
     void scrollTo(int topRow);
@@ -89,6 +90,7 @@ signals:
 
 private:
     void fit();
+    void dropColorsFrom(int row);
     void changed(int row, int col);
 
     QList<GridRow> m_rows;

@@ -7,11 +7,21 @@ QString ListBox::item(int index) const
     return index >= 0 && index < count() ? m_items[index] : QString();
 }
 
+// Whoever hears of the new entries finds the selection in step with them.
+void ListBox::replaceItems(const QStringList &items, int selected)
+{
+    const int before = m_selected;
+    m_items = items;
+    m_selected = selected;
+    emit itemsChanged();
+    if (m_selected != before && m_selected == selected) {
+        emit selectedChanged(m_selected);
+    }
+}
+
 void ListBox::setItems(const QStringList &items)
 {
-    m_items = items;
-    emit itemsChanged();
-    setSelected(m_selected < count() ? m_selected : -1);
+    replaceItems(items, m_selected < items.size() ? m_selected : -1);
 }
 
 void ListBox::addItem(const QString &text)
@@ -26,11 +36,9 @@ void ListBox::insertItem(int at, const QString &text)
         addItem(text);
         return;
     }
-    m_items.insert(at, text);
-    emit itemsChanged();
-    if (m_selected >= at) {
-        setSelected(m_selected + 1);
-    }
+    QStringList items = m_items;
+    items.insert(at, text);
+    replaceItems(items, m_selected >= at ? m_selected + 1 : m_selected);
 }
 
 void ListBox::setItem(int index, const QString &text)
@@ -46,22 +54,17 @@ void ListBox::removeItem(int index)
     if (index < 0 || index >= count()) {
         return;
     }
-    m_items.removeAt(index);
-    emit itemsChanged();
-    if (m_selected == index) {
-        setSelected(-1);
-    } else if (m_selected > index) {
-        setSelected(m_selected - 1);
-    }
+    QStringList items = m_items;
+    items.removeAt(index);
+    const int moved = m_selected > index ? m_selected - 1 : m_selected;
+    replaceItems(items, m_selected == index ? -1 : moved);
 }
 
 void ListBox::clear()
 {
     if (!m_items.isEmpty()) {
-        m_items.clear();
-        emit itemsChanged();
+        replaceItems({}, -1);
     }
-    setSelected(-1);
 }
 
 void ListBox::setSelected(int index)
@@ -89,16 +92,22 @@ void ListBox::doubleClick(int index)
     }
 }
 
-void ComboBox::type(const QString &text)
+ComboBox::ComboBox(Form &form, const QString &name, int index) : ListBox(form, name, index)
 {
-    m_typed = text.isNull() ? QLatin1String("") : text;
-    emit typed(m_typed);
+    const auto forgetTyped = [this] { m_typed = QString(); };
+    connect(this, &ListBox::selectedChanged, this, forgetTyped);
+    connect(this, &ListBox::itemsChanged, this, [this, forgetTyped] {
+        if (count() == 0) {
+            forgetTyped();
+        }
+    });
 }
 
-void ComboBox::pick(int index)
+void ComboBox::type(const QString &text)
 {
-    m_typed = QString();
-    ListBox::pick(index);
+    setSelected(-1);
+    m_typed = text.isNull() ? QLatin1String("") : text;
+    emit typed(m_typed);
 }
 
 } // namespace kavro

@@ -22,9 +22,11 @@ public:
     /// The text of the selected entry, empty when there is none.
     [[nodiscard]] QString selectedText() const { return item(m_selected); }
 
+    /// The selection stays at its number, and goes when there is no such entry any more.
     void setItems(const QStringList &items);
     void addItem(const QString &text);
-    /// Before the entry at `at`, at the end when `at` lies outside.
+    /// Before the entry at `at`, at the end when `at` lies outside. Here and in `removeItem` the
+    /// selection stays with its entry.
     void insertItem(int at, const QString &text);
     /// Nothing outside the list.
     void setItem(int index, const QString &text);
@@ -48,6 +50,8 @@ signals:
     void doubleClicked(int index);
 
 private:
+    void replaceItems(const QStringList &items, int selected);
+
     QStringList m_items;
     int m_selected = -1;
 };
@@ -58,13 +62,12 @@ class ComboBox : public ListBox
     Q_OBJECT
 
 public:
-    using ListBox::ListBox;
+    ComboBox(Form &form, const QString &name, int index = noIndex);
 
-    /// What stands in the box: the selected entry, or what was typed.
+    /// What stands in the box: the selected entry, or what was typed since.
     [[nodiscard]] QString text() const { return m_typed.isNull() ? selectedText() : m_typed; }
-    /// Act: the user types a text that may be no entry.
+    /// Act: the user types a text that may be no entry; it takes the selection away.
     void type(const QString &text);
-    void pick(int index) override;
 
 signals:
     void typed(const QString &text);

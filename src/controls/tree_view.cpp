@@ -5,7 +5,7 @@ namespace kavro {
 int TreeView::add(int parent, const QString &text, const QString &key)
 {
     const QString folded = key.toLower();
-    if (!key.isNull() && m_byKey.contains(folded)) {
+    if ((parent != noNode && !has(parent)) || (!key.isNull() && m_byKey.contains(folded))) {
         return noNode;
     }
     const int number = static_cast<int>(m_nodes.size());
@@ -20,6 +20,11 @@ int TreeView::add(int parent, const QString &text, const QString &key)
     }
     emit added(number);
     return number;
+}
+
+bool TreeView::has(int number) const
+{
+    return number >= 0 && number < m_nodes.size() && m_nodes.at(number).parent != goneNode;
 }
 
 int TreeView::find(const QString &key) const
@@ -43,7 +48,7 @@ int TreeView::findText(QStringView text) const
 
 void TreeView::setText(int number, const QString &text)
 {
-    if (m_nodes.at(number).text != text) {
+    if (has(number) && m_nodes.at(number).text != text) {
         m_nodes[number].text = text;
         emit textChanged(number);
     }
@@ -51,25 +56,25 @@ void TreeView::setText(int number, const QString &text)
 
 void TreeView::forget(int number)
 {
-    const QList<int> children = m_nodes.at(number).children;
-    for (const int child : children) {
+    const Node gone = m_nodes.at(number);
+    for (const int child : gone.children) {
         forget(child);
     }
-    if (!m_nodes.at(number).key.isNull()) {
-        m_byKey.remove(m_nodes.at(number).key.toLower());
+    if (!gone.key.isNull()) {
+        m_byKey.remove(gone.key.toLower());
     }
-    if (m_selected == number) {
-        m_selected = noNode;
-    }
-    m_nodes[number].children.clear();
+    m_nodes[number] = {.key = {}, .text = {}, .parent = goneNode, .children = {}};
 }
 
 void TreeView::remove(int number)
 {
-    forget(number);
+    if (!has(number)) {
+        return;
+    }
     const int parent = m_nodes.at(number).parent;
     (parent == noNode ? m_roots : m_nodes[parent].children).removeOne(number);
-    emit reset();
+    forget(number);
+    tellLoss();
 }
 
 void TreeView::clear()
@@ -77,13 +82,24 @@ void TreeView::clear()
     m_nodes.clear();
     m_roots.clear();
     m_byKey.clear();
-    m_selected = noNode;
+    tellLoss();
+}
+
+void TreeView::tellLoss()
+{
+    const bool selectionLost = m_selected != noNode && !has(m_selected);
+    if (selectionLost) {
+        m_selected = noNode;
+    }
     emit reset();
+    if (selectionLost) {
+        emit selectedChanged(noNode);
+    }
 }
 
 void TreeView::setSelected(int number)
 {
-    if (m_selected != number) {
+    if (m_selected != number && (number == noNode || has(number))) {
         m_selected = number;
         emit selectedChanged(number);
     }
@@ -91,8 +107,10 @@ void TreeView::setSelected(int number)
 
 void TreeView::click(int number)
 {
-    setSelected(number);
-    emit clicked(number);
+    if (has(number)) {
+        setSelected(number);
+        emit clicked(number);
+    }
 }
 
 } // namespace kavro

@@ -25,20 +25,26 @@ public:
         QList<int> children;
     };
 
-    /// Adds a node as its parent's last child, or as a root. Returns its number, `noNode` when the
-    /// key stands already (keys are the same in any case of letters).
+    /// Adds a node as its parent's last child, or as a root under `noNode`. Returns its number,
+    /// `noNode` when the parent isn't there or the key stands already (keys are the same in any
+    /// case of letters).
     int add(int parent, const QString &text, const QString &key = {});
     /// The node with that key, `noNode` for none.
     [[nodiscard]] int find(const QString &key) const;
     /// The first node with that text, from the top as the tree shows them, `noNode` for none.
     [[nodiscard]] int findText(QStringView text) const;
+    /// False for a number that was never given or whose node went away.
+    [[nodiscard]] bool has(int number) const;
+    /// The node must be there.
     [[nodiscard]] const Node &node(int number) const { return m_nodes.at(number); }
     [[nodiscard]] const QList<int> &roots() const { return m_roots; }
+    /// Nothing for a node that isn't there, as in the functions below.
     void setText(int number, const QString &text);
     /// Takes a node and all below it away.
     void remove(int number);
     void clear();
     [[nodiscard]] int selected() const { return m_selected; }
+    /// `noNode` takes the selection away.
     void setSelected(int number);
 
     /// Act: the user clicks a node.
@@ -54,6 +60,9 @@ signals:
 
 private:
     void forget(int number);
+    void tellLoss();
+
+    static constexpr int goneNode = -2; ///< parent of a number whose node went away
 
     QList<Node> m_nodes;
     QList<int> m_roots;

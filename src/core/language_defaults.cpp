@@ -88,7 +88,7 @@ constexpr DefaultText texts[] = {
 
     {Report, 0, u"Media analiser started ... "},
     {Report, 1, u"Date: "},
-    {Report, 2, u"File: "}, // a path follows on its own line, or the format of a movie behind it
+    {Report, 2, u"File information:"}, // a path follows on a line of its own, or the format of a movie on this one
     {Report, 3, u"Subtitle analiser started ... "},
     {Report, 4, u"  Format: "},
     {Report, 5, u"  Lines: "},
