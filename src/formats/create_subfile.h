@@ -24,7 +24,7 @@ struct WriteRequest
     bool showProgress = false;
     /// Path of the one file of a run without partition, its extension replaced by the format's
     /// unless `literal`.
-    QString path;
+    QString path = {};
     bool literal = false; ///< a device or a pipe: the path is taken as it stands
     /// False takes an existing file for granted: a save to the document's own file.
     bool askOverwrite = true;
@@ -39,9 +39,9 @@ struct WriteResult
     };
 
     Kind kind = Kind::Failed;
-    QString error;
-    QString path;      ///< the last file written, with its extension
-    QStringList files; ///< all files written
+    QString error = {};
+    QString path = {};      ///< the last file written, with its extension
+    QStringList files = {}; ///< all files written
     int rowsWritten = 0;
     /// Of a plain run that ended early: the first row not written, 0 when all were.
     int firstRowLeft = 0;

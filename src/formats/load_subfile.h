@@ -52,7 +52,7 @@ struct LoadRequest
     bool showMessages = true;
     /// Look at the lines alone, whatever the extension says.
     bool linesDecide = false;
-    ReadOptions encoding;
+    ReadOptions encoding = {};
 };
 
 struct LoadResult
