@@ -4,7 +4,6 @@ Status 1 when there is a fault. scripts/style-allow.txt holds the exceptions: ch
 """
 
 import fnmatch
-import json
 import os
 import re
 import subprocess
@@ -213,15 +212,6 @@ def length():
             yield Fault(path, count, f"{count} lines, {LONGEST_FILE} are the most")
 
 
-def database(path):
-    """The compile commands without the launcher, which clang-tidy would take for the compiler."""
-    with open(path, encoding="utf-8") as file:
-        commands = json.load(file)
-    for command in commands:
-        command["command"] = re.sub(r"^.*?(?=\S*/(?:c|g|clang)\+\+\S* )", "", command["command"])
-    json.dump(commands, sys.stdout, indent=1)
-
-
 CHECKS = (includes, circles, qt, ids, untested, paths, mentions, length)
 
 
@@ -232,9 +222,6 @@ def allowed(check):
 
 
 def main():
-    if sys.argv[1] == "database":
-        database(sys.argv[2])
-        return 0
     check = {function.__name__: function for function in CHECKS}.get(sys.argv[1])
     if check is None:
         sys.exit(f"no such check: {sys.argv[1]}")
