@@ -5,7 +5,6 @@
 namespace kavro {
 
 class FileCommands;
-class Messages;
 class Navigation;
 struct Ports;
 

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "app/file_window.h"
-#include "core/encoding.h"
 #include "formats/create_subfile.h"
-#include "formats/load_subfile.h"
 
 #include <QString>
 
@@ -15,11 +13,14 @@ class LanguageTable;
 class Navigation;
 class NodeFile;
 class SubtitleDocument;
+class SubtitleLoader;
 struct ClipboardPanel;
 struct FontLists;
 struct FormatLists;
+struct LoadRequest;
 struct MainMenu;
 struct PartitionPage;
+struct ScdFile;
 struct SettingsPage;
 struct StatusPanels;
 
@@ -47,7 +48,7 @@ public:
         SettingsPage &settings;
         Messages &messages;
         const LanguageTable &language;
-        Folders &folders;
+        const Folders &folders;
         ActionTrace &trace;
     };
 
@@ -56,15 +57,15 @@ public:
     void mnuNewFile();
     void mnuLoadFile();
     void mnuAddFile();
-    /// Writes at once, without a question, where the document came from or went to this file in
-    /// this format; else it is `mnuSavesubfile`. True when the file was written.
+    /// Writes at once, without a question, where the document came from or went to its file in its
+    /// format; else it is `mnuSavesubfile`. True when the file was written.
     bool mnuSave();
     /// Asks for a name and a format. True when the file was written.
     bool mnuSavesubfile();
     /// Asks for a name and writes nothing.
     void mnuSaveSettings();
     void mnuPrint();
-    /// Reads the document's file again in the encoding of that entry of `lstEncoding`. Asks about
+    /// Reads the document's file again in the encoding of that entry of `lstEncoding`; asks about
     /// changes as any load does.
     void mnuReopen(int entry);
 
@@ -73,26 +74,29 @@ public:
 
     /// Names the document: the path with its extension replaced by the format's.
     void SetFileName(const QString &path, int formatId);
-    /// Names the document by the path as it stands, and writes its name in the window's places.
+    /// Names the document by the path as it stands: in the window's places, among the properties of
+    /// a transfer, and with an edit history that begins anew.
     void nameDocument(const QString &path, int formatId);
-    /// Writes rows 1 to `lastRow` to a path whose extension the format sets, unless `literal`.
-    /// Only a write that succeeded names the document, clears its changes and stores its nodes.
-    WriteResult WriteSubtitleFile(const QString &path, int formatId, int lastRow,
-                                  bool literal = false, bool askOverwrite = true);
+    /// Writes rows 1 to `lastRow`; the format sets the path's extension. Only a write that
+    /// succeeded names the document, clears its changes and stores its nodes.
+    WriteResult WriteSubtitleFile(const QString &path, int formatId, int lastRow);
     /// Enables what needs a document.
     void EnableDocumentCommands();
     /// The encoding of the document goes into the status bar and `lstEncoding`.
     void showEncoding();
 
     FileWindowState window;
-    ListBox lstEncoding; ///< "Reopen as": a pick reads the file again, `mnuReopen` repeats it
+    ListBox lstEncoding; ///< a pick reads the file again in that encoding
 
 private:
     void connectMenu();
+    bool mayDropChanges();
+    bool mayWriteErrors();
     void loadPath(const QString &path, int format);
-    QString readSettingFile(const QString &path);
+    void load(LoadRequest &request);
+    void takeScdFile(const ScdFile &file);
+    WriteResult write(const WriteRequest &request);
     void fillFileProperties();
-    bool mayLoseChanges();
 
     Parts m_parts;
 };

@@ -29,43 +29,44 @@ struct FileWindowOptions
 class FileWindowState
 {
 public:
-    FileWindowState(Form &frmFile, const Ports &ports, Folders &folders, Messages &messages,
+    FileWindowState(Form &frmFile, const Ports &ports, const Folders &folders, Messages &messages,
                     ActionTrace &trace);
 
-    /// The folder and the name that the window opens with; an empty folder stands for the one of
-    /// subtitle files.
-    void goTo(const QString &folder, const QString &name);
+    /// The folder and the name that the window opens with.
+    void goTo(const QString &path);
 
-    /// Opens the window and waits. True for OK: `lblFullName` has the path, `List3` the filter.
-    /// Cancel stops a running macro.
+    /// Opens the window and waits. True for OK with a name: `lblFullName` has the path, `List3` the
+    /// filter. Cancel stops a running macro.
     bool show(const FileWindowOptions &options);
 
+    /// True when the filter that is selected is a subtitle format.
+    [[nodiscard]] bool isFormatChosen() const;
+
     ListBox List1;                        ///< drives
-    ListBox List2;                        ///< folders, the chosen one last
+    ListBox List2;                        ///< the folder
     ListBox List3;                        ///< filters; the index of an entry is its FormatId
     ListBox File1;                        ///< files of the folder that match the filter
     TextBox txtFilename;                  ///< name without folder
     CheckBox Check1;                      ///< "Save as current loaded media name"
     Label lblInfo;                        ///< heading
     Label lblFullName;                    ///< the path that was chosen
-    Label lblErr;                         ///< what went wrong with a drive
+    Label lblErr;                         ///< what is wrong with a drive
     Label Label1;                         ///< the folder
     Label Label5;                         ///< the filter
     Label Label36;                        ///< the drive
-    Label Label6;                         ///< opens the list of filters
     ControlArray<Button, 0, 1> cmdAction; ///< 0 Cancel, 1 OK
 
 private:
     void fill();
+    void setFolder(const QString &folder);
     void listFiles();
-    void takeName();
-    void act(int button);
+    void close(int button);
+    bool accept();
 
     const Ports &m_ports;
-    Folders &m_folders;
+    const Folders &m_folders;
     Messages &m_messages;
     ActionTrace &m_trace;
-    bool m_filled = false;
 };
 
 } // namespace kavro

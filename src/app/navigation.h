@@ -5,6 +5,7 @@
 #include "controls/list_box.h"
 #include "controls/tab_strip.h"
 #include "controls/tree_view.h"
+#include "core/language.h"
 
 #include <QString>
 
@@ -15,7 +16,6 @@ namespace kavro {
 class Folders;
 class Form;
 class HelpWindow;
-class LanguageTable;
 class Messages;
 class SubtitleDocument;
 class SubtitleLoader;
@@ -27,9 +27,21 @@ struct PlayerPage;
 struct Ports;
 struct SettingsPage;
 
+/// The tabs of `tabMain`.
+enum MainTab {
+    CalculatorTab,
+    PartitionTab,
+    EditorTab,
+    PlayerTab,
+    DiagnoseTab,
+    MacroTab,
+    OnlineTab
+};
+
 /// Place and size of the main window in twips, 15 to a pixel. The view keeps it true.
 struct ScreenPos
 {
+    static constexpr double twipsPerPixel = 15;
     static constexpr double minFormWidth = 14295;
     static constexpr double minFormHeight = 9195;
 
@@ -72,10 +84,12 @@ public:
 
     /// The path is added to the recent list and the tree, or selected where it stands.
     void addRecent(const QString &path);
-    /// The big commands' help, when the setting is on.
+    /// Brings a page of the help to the front if the big commands shall do so.
     void autoHelp(int page);
-    /// True when a click on that node of the tree leads somewhere now, or one below it does; a
-    /// view leaves the others out.
+    /// Opens the help's index, and its tab.
+    void mnuHelpIndex();
+    /// True when a click on that node of the tree, or on one below it, leads somewhere now; a view
+    /// leaves the others out.
     [[nodiscard]] bool leadsSomewhere(int node) const;
 
     ScreenPos screenPos;
@@ -83,29 +97,29 @@ public:
     std::array<QString, treeNodeCount> nodeCaption;
 
     TreeView TV1;
-    ComboBox Combo13;                     ///< recent files by full path, in the order they came
-    TabStrip tabMain;                     ///< Calculator to Online
-    TabStrip tabCalculator;               ///< Advanced, Classic
-    TabStrip tabClipboard;                ///< the bottom panel: Clipboard, Script Player, ...
-    TabStrip SSTab1;                      ///< left panel: tree, help page
-    TabStrip SSTab5;                      ///< Download, Upload
-    ControlArray<Button, 0, 0> command55; ///< opens and closes the bottom panel: "-" is open
+    ComboBox Combo13;       ///< recent files by full path, in the order they came; never shown
+    TabStrip tabMain;       ///< Calculator to Online
+    TabStrip tabCalculator; ///< Advanced, Classic
+    TabStrip tabClipboard;  ///< the bottom panel: Clipboard, Script Player, ...
+    TabStrip SSTab1;        ///< left panel: tree, help page
+    TabStrip SSTab5;        ///< Download, Upload
+    ControlArray<Button, 0, 0> command55; ///< opens and closes the bottom panel: "-" while open
 
 private:
     void connectTabs();
     void clickNode(int node);
-    void actOn(const TreeNode &node);
+    void clickMenu(NodeAction action);
+    void showPage(const TreeNode &node);
     void loadRecent(const QString &path);
     void enterMainTab(int tab);
-    void recordMainTab(int tab);
+    [[nodiscard]] int helpOfMainTab(int tab) const;
     void enterPlayer();
-    void enterCalculator();
-    void recordTab(int code, int helpPage);
     void openBottomPanel(bool open);
-    void showCopyButtons(int first, int second);
+    void record(int code, int page);
+    void showCopyButton(int button, LangGroup group, int item);
+    void showCalculatorButtons();
 
     Parts m_parts;
-    Form &m_form;
 };
 
 } // namespace kavro

@@ -44,7 +44,7 @@ namespace kavro {
 class Program
 {
 public:
-    Program(const Ports &ports, FileStore &store, Folders &folders);
+    Program(const Ports &doors, FileStore &fileStore, Folders &appFolders);
     ~Program();
     Program(const Program &) = delete;
     Program &operator=(const Program &) = delete;
@@ -122,20 +122,26 @@ public:
     HelpWindow help;
 
 private:
-    struct StartStep;
-    static const StartStep startSteps[];
-    void runStartSteps(bool forVerb);
+    void connectMenu();
+    void connectFrameRates();
+    void setInitialValues();
+
+    // The steps of the start.
+    void prepareFolders();
+    void loadSettings();
+    void fillTexts();
     void fillFormatLists();
     void fillLanguageLists();
     void fillFonts();
-    void setInitialTabs();
-    void loadNamedFile();
+    void showFirstTabs();
+    void loadNamedFile(const QString &file);
     void loadLastFiles();
-    void connectMenu();
-    void splashLeft();
+    void splashGone();
+
+    void mnuAbout();
+    bool keepsChanges();
 
     QList<Form *> m_forms;
-    QString m_file; ///< the file of the command line
     bool m_ended = false;
     bool m_forVerb = false;
 };

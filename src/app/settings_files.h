@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 
 namespace kavro {
 
@@ -21,7 +22,7 @@ public:
     struct Parts
     {
         const Ports &ports;
-        SubtitleDocument &document;
+        const SubtitleDocument &document;
         SettingsPage &settings;
         FrameRatePage &frameRates;
         Navigation &navigation;
@@ -35,16 +36,16 @@ public:
     /// stands, and reports nothing.
     void LoadSettingsFile();
 
-    /// What last.sdf holds; both empty when there is none.
     struct LastFiles
     {
         QString subtitle;
         QString movie;
     };
+    /// What last.sdf holds; both empty when there is none.
     [[nodiscard]] LastFiles lastFiles() const;
 
-    /// Writes the files of an exit: wizard, macros, searches, recent and last files, position. A
-    /// file whose content this program didn't change is made when it is missing, else left alone.
+    /// Writes the files of an exit. One whose content this program didn't change is left alone, but
+    /// made when it is missing.
     void writeAtExit();
 
 private:
@@ -53,11 +54,12 @@ private:
     void writeRecent();
     void writeLast();
     void writePosition();
-    void writeLines(const QString &name, const QStringList &lines);
-    void keep(const QString &name);
+    void keep(QStringView name);
+    [[nodiscard]] bool isMissing(QStringView name) const;
+    void writeLines(QStringView name, const QStringList &lines);
 
     Parts m_parts;
-    QStringList m_recentAsRead; ///< the recent list behind the load
+    QStringList m_recentAsRead;
 };
 
 } // namespace kavro

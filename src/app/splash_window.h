@@ -3,6 +3,8 @@
 #include "controls/control.h"
 #include "controls/indicators.h"
 
+#include <QString>
+
 #include <functional>
 
 namespace kavro {
@@ -15,17 +17,17 @@ class SplashWindow
 public:
     explicit SplashWindow(Form &frmSplash);
 
-    /// Opens the window with the program's version; the countdown waits.
+    /// Opens the window; the countdown waits for `finish`.
     void open();
-    /// "Done" in green; the countdown begins.
-    void finish();
-    /// Leaves the splash at once: a click, a key, or the countdown's end.
-    void ExitfrmSplash();
-    /// A piece of the start begins.
+    /// Tells which piece of the start runs.
     void report(const QString &text) { Label1.setCaption(text); }
+    /// "Done" in green, and the countdown begins.
+    void finish();
+    /// Leaves the splash: a click, a key, or the countdown's end. Nothing while it isn't open.
+    void ExitfrmSplash();
 
-    /// What opens when the splash goes.
-    std::function<void()> left;
+    /// What opens when the splash has gone.
+    std::function<void()> gone;
 
     Label lblVersion;
     Label lblBuild;

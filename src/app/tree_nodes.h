@@ -29,7 +29,7 @@ enum class NodeAction {
 };
 
 /// The second set of tabs that a page's node brings to the front.
-enum class InnerTabs { None, Calculator, Editor, Timing, Online, Bottom, Left };
+enum class InnerTabs { NoTabs, Calculator, Editor, Timing, Online, Bottom };
 
 /// A node of the main tree.
 struct TreeNode
@@ -38,18 +38,15 @@ struct TreeNode
     QStringView parent; ///< key of the parent, empty for a root
     QStringView caption;
     NodeAction action = NodeAction::None;
-    int mainTab = -1; ///< tab of `tabMain`, -1 for none
-    InnerTabs inner = InnerTabs::None;
-    int innerTab = 0;
     bool built = false; ///< the window or the page behind it exists
+    int mainTab = -1;   ///< tab of `tabMain`, -1 for none
+    InnerTabs inner = InnerTabs::NoTabs;
+    int innerTab = 0;
 };
 
 /// The roots and all nodes below them, parents first; the position is the index of a language pack.
-constexpr int treeNodeCount = 48;
+constexpr int treeNodeCount = 47;
 std::span<const TreeNode> treeNodes();
-
-/// Nodes that the tree never shows and a caller may still ask for.
-std::span<const TreeNode> hiddenNodes();
 
 /// nullptr when there is no node of that key, in any case of letters.
 const TreeNode *treeNode(QStringView key);

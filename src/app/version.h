@@ -14,6 +14,12 @@ constexpr int versionMajor = 4;
 constexpr int versionMinor = 0;
 constexpr int versionRevision = 0;
 
+/// "Kavro 4.0", for windows.
+inline QString titleWithVersion()
+{
+    return QStringLiteral("%1 %2.%3").arg(versionName()).arg(versionMajor).arg(versionMinor);
+}
+
 /// Major, ".", minor, "0": "4.00". Packs and stored files are compared with it.
 inline QString versionNumber()
 {
