@@ -33,9 +33,6 @@ FileWindowState::FileWindowState(Form &frmFile, const Ports &ports, const Folder
       m_messages(messages),
       m_trace(trace)
 {
-    Check1.setCaption(u"Save as current loaded media name"_s);
-    cmdAction[0].setCaption(u"Cancel"_s);
-    cmdAction[1].setCaption(u"Ok"_s);
     cmdAction[1].setEnabled(false);
 
     QObject::connect(&List3, &ListBox::selectedChanged, &List3,

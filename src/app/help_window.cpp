@@ -18,8 +18,6 @@ HelpWindow::HelpWindow(Form &frmHelp, HelpBrowser &browser, const LanguageTable 
       m_language(language),
       m_folders(folders)
 {
-    m_form.setCaption(u"Help"_s);
-    cmdOk.setCaption(u"Ok"_s);
     QObject::connect(&cmdOk, &Button::clicked, &cmdOk, [this] { m_form.hide(); });
     QObject::connect(&m_form, &Form::closeRequested, &cmdOk, [this] { m_form.hide(); });
 }

@@ -224,7 +224,7 @@ void LanguagePack::ScanLanguageFiles()
         if (!version.startsWith(u"4.0")) {
             continue;
         }
-        const QString title = name + u" by: " + author;
+        const QString title = name + u" by: "_s + author;
         if (!names.items().contains(title, Qt::CaseInsensitive)) {
             names.addItem(title);
             paths.addItem(path);

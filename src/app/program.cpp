@@ -100,6 +100,12 @@ Program::Program(const Ports &doors, FileStore &fileStore, Folders &appFolders)
       splash(frmSplash),
       tips(frmTip, settings, language, folders, ports.random),
       help(frmHelp, ports.help, language, folders),
+      languagePack({.language = language,
+                    .nodeCaption = navigation.nodeCaption,
+                    .settings = settings,
+                    .messages = messages,
+                    .folders = folders,
+                    .form = [this](QStringView name) { return form(name); }}),
       m_forms{&frmMain, &frmFile, &frmControl,  &frmMessageBox, &frmSplash,
               &frmTip,  &frmHelp, &frmSettings, &frmHistory}
 {

@@ -2,6 +2,7 @@
 
 #include "app/document_host.h"
 #include "app/file_commands.h"
+#include "app/language_pack.h"
 #include "app/navigation.h"
 #include "app/settings_files.h"
 #include "app/windows.h"
@@ -120,6 +121,7 @@ public:
     SplashWindow splash;
     TipWindow tips;
     HelpWindow help;
+    LanguagePack languagePack;
 
 private:
     void connectMenu();

@@ -36,6 +36,7 @@ constexpr int defaultRate = 2; ///< 25.000
 
 void Program::start(const QString &file)
 {
+    languagePack.setDesignCaptions();
     prepareFolders();
     control_window.quiet = true; // a load of the start shows no progress window
     if (file.isEmpty()) {
@@ -43,6 +44,7 @@ void Program::start(const QString &file)
     }
     navigation.SetScreenPos();
     loadSettings();
+    languagePack.LoadLanguage();
     fillTexts();
     fillFonts();
     loadNamedFile(file);
@@ -61,6 +63,7 @@ void Program::start(const QString &file)
 void Program::startForVerb()
 {
     m_forVerb = true;
+    languagePack.setDesignCaptions();
     fillTexts();
     fillFonts();
     showFirstTabs();

@@ -23,10 +23,6 @@ TipWindow::TipWindow(Form &frmTip, SettingsPage &settings, const LanguageTable &
       m_folders(folders),
       m_random(random)
 {
-    m_form.setCaption(u"Tip of the day"_s);
-    cmdNextTip.setCaption(u"Next tip"_s);
-    cmdOk.setCaption(u"Ok"_s);
-    chkLoadTipsAtStartup.setCaption(u"Show tips at start"_s);
     QObject::connect(&cmdNextTip, &Button::clicked, &cmdNextTip, [this] { pickTip(); });
     QObject::connect(&cmdOk, &Button::clicked, &cmdOk, [this] { m_form.hide(); });
     QObject::connect(&m_form, &Form::closeRequested, &cmdOk, [this] { m_form.hide(); });

@@ -5,7 +5,14 @@ namespace kavro {
 using namespace Qt::StringLiterals;
 
 MainMenu::MainMenu(Form &frmMain)
-    : mnuNewFile(frmMain, u"mnuNewFile"_s),
+    : mnuFile(frmMain, u"mnuFile"_s),
+      mnuCollection(frmMain, u"mnuCollection"_s),
+      mnuEdit(frmMain, u"mnuEdit"_s),
+      mnuView(frmMain, u"mnuView"_s),
+      mnuOptions(frmMain, u"mnuOptions"_s),
+      mnuWizards(frmMain, u"mnuWizards"_s),
+      mnuHelp(frmMain, u"mnuHelp"_s),
+      mnuNewFile(frmMain, u"mnuNewFile"_s),
       mnuLoadFile(frmMain, u"mnuLoadFile"_s),
       mnuAddFile(frmMain, u"mnuAddFile"_s),
       mnuSave(frmMain, u"mnuSave"_s),

@@ -9,6 +9,7 @@ struct MainMenu
 {
     explicit MainMenu(Form &frmMain);
 
+    Button mnuFile, mnuCollection, mnuEdit, mnuView, mnuOptions, mnuWizards, mnuHelp; ///< titles
     Button mnuNewFile, mnuLoadFile, mnuAddFile, mnuSave, mnuSavesubfile, mnuSaveSettings;
     Button mnuReopen; ///< reads the file again in another encoding
     Button mnuDBManage, mnuPrint, mnuExit;
