@@ -2,7 +2,6 @@
 
 #include "core/control_window.h"
 #include "core/document.h"
-#include "core/editor_page.h"
 #include "core/font_lists.h"
 #include "core/language.h"
 #include "core/line_reader.h"

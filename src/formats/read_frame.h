@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/grid.h"
+#include "core/editor_page.h"
 #include "formats/subtitle_format.h"
 
 #include <QList>

@@ -1,4 +1,3 @@
-#include "core/editor_page.h"
 #include "core/line_reader.h"
 #include "core/text.h"
 #include "formats/implementations.h"
