@@ -165,7 +165,10 @@ qsizetype cutSequence(QByteArrayView bytes)
 
 bool isAscii(QStringView text)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+    unsigned all = 0;
+    for (const QChar c : text)
+        all |= c.unicode();
+    return all < 0x80;
 }
 
 bool isUnicode(const QByteArray &name)
@@ -266,7 +269,7 @@ bool EncodingDetector::fitsUtf8(QByteArrayView bytes)
 void EncodingDetector::feedGuess(QByteArrayView bytes)
 {
     // More never changes the guess, and costs more than all the rest of a load.
-    constexpr qsizetype enough = 1 << 18;
+    constexpr qsizetype enough = 1 << 16;
     if (!m_guess)
         m_guess = std::make_unique<Guess>();
     const QByteArrayView part = bytes.first(std::min(bytes.size(), enough - m_guessed));

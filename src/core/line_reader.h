@@ -62,7 +62,7 @@ private:
     bool readPiece();
     void startDecoding();
     void refill();
-    qsizetype findLineEnd();
+    [[nodiscard]] qsizetype findLineEnd(qsizetype from) const;
     void fail(FileFault fault, const QString &text);
 
     std::unique_ptr<QIODevice> m_device;
@@ -72,14 +72,11 @@ private:
     QStringDecoder m_decoder;
     QByteArray m_piece; ///< of the file; its first `m_pieceSize` bytes
     qsizetype m_pieceSize = 0;
-    bool m_firstPiece = false; ///< `m_piece` is the file's first and was not decoded yet
-    bool m_bytesRead = true;   ///< behind `m_piece` the file has no more
-    QString m_text;            ///< decoded, and not handed out from `m_pos` on
-    QString m_spentText;       ///< the text before; the last line handed out may lie in it
+    bool m_bytesRead = true; ///< behind `m_piece` the file has no more
+    bool m_markRead = false;
+    QString m_text;      ///< decoded, and not handed out from `m_pos` on
+    QString m_spentText; ///< the text before; the last line handed out may lie in it
     qsizetype m_pos = 0;
-    qsizetype m_nextCr = -1; ///< at or behind `m_pos`, or the text's size; older when below `m_pos`
-    qsizetype m_nextLf = -1;
-    bool m_wholeText = false; ///< `m_text` holds the file from its first line to its last
     bool m_skipLf = false; ///< a CR ended the text: an LF at the head of what follows belongs to it
 };
 

@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <system_error>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -18,7 +19,7 @@ namespace kavro {
 
 namespace {
 
-constexpr qsizetype flushLength = 1 << 16;
+constexpr std::size_t flushLength = 1 << 16;
 constexpr int mostLinks = 40;
 
 QString describe(int code)
@@ -71,8 +72,8 @@ Destination destinationOf(const QString &path)
 /// The new file belongs to whom the old one belonged, where we may do that.
 void takeOver(QFile &file, const QFileInfo &old)
 {
-    if (old.ownerId() != ::geteuid() || old.groupId() != ::getegid()) [[maybe_unused]]
-        const int ignored = ::fchown(file.handle(), old.ownerId(), old.groupId());
+    if (old.ownerId() != ::geteuid() || old.groupId() != ::getegid())
+        std::ignore = ::fchown(file.handle(), old.ownerId(), old.groupId());
     file.setPermissions(old.permissions());
 }
 
@@ -124,7 +125,7 @@ FileStatus FileStore::copy(const QString &from, const QString &to)
         return faultOf(copy);
     FileStatus status;
     while (status.ok() && !source.atEnd()) {
-        const QByteArray part = source.read(flushLength);
+        const QByteArray part = source.read(qint64{flushLength});
         const qint64 taken = take(part.size());
         if (copy.write(part.constData(), taken) != taken)
             status = faultOf(copy);
@@ -150,7 +151,7 @@ const FileStatus &FileWriter::open(const QString &path, const TextEncoding &enco
 {
     discard();
     m_status = {};
-    m_text.resize(0);
+    m_used = 0;
     m_bytes.resize(0);
     m_encoder.emplace(encoding);
     const Destination destination = destinationOf(path);
@@ -196,26 +197,36 @@ bool FileWriter::write(QStringView text)
 {
     if (!m_status.ok())
         return false;
-    m_text.append(text);
-    return m_text.size() < flushLength || flush();
+    std::copy_n(text.data(), text.size(), makeRoom(text.size()));
+    return m_used < flushLength || flush();
 }
 
 bool FileWriter::writeLine(QStringView line)
 {
     if (!m_status.ok())
         return false;
-    m_text.append(line);
-    m_text.append(u"\r\n");
-    return m_text.size() < flushLength || flush();
+    QChar *const end = std::copy_n(line.data(), line.size(), makeRoom(line.size() + 2));
+    end[0] = u'\r';
+    end[1] = u'\n';
+    return m_used < flushLength || flush();
+}
+
+QChar *FileWriter::makeRoom(qsizetype count)
+{
+    const std::size_t at = m_used;
+    m_used += static_cast<std::size_t>(count);
+    if (m_used > m_text.size())
+        m_text.resize(m_used + flushLength);
+    return m_text.data() + at;
 }
 
 bool FileWriter::flush()
 {
-    if (!m_encoder->append(m_text, m_bytes)) {
+    if (!m_encoder->append(QStringView(m_text.data(), static_cast<qsizetype>(m_used)), m_bytes)) {
         discard();
         return fail(FileFault::Unencodable, u"the encoding lacks a character of the text"_s);
     }
-    m_text.resize(0);
+    m_used = 0;
     return writeBytes();
 }
 
@@ -249,8 +260,9 @@ bool FileWriter::putInPlace()
         m_file.close();
         return m_file.error() == QFileDevice::NoError || failDevice();
     }
-    // Without it a crash of the machine could leave the new name with no content behind it.
-    if (::fdatasync(m_file.handle()) != 0)
+    // A crash of the machine must not leave an empty file in the place of the old one. A new file
+    // has nothing to lose, and a hundred of them would wait for the disk a hundred times.
+    if (QFileInfo::exists(m_target) && ::fdatasync(m_file.handle()) != 0)
         return fail(FileFault::Unwritable, describe(errno));
     m_file.close();
     if (!renameOver(m_file.fileName(), m_target))

@@ -9,6 +9,7 @@
 #include <QStringView>
 
 #include <optional>
+#include <vector>
 
 namespace kavro {
 
@@ -78,6 +79,7 @@ public:
 private:
     bool openBeside(const QString &target);
     bool openAs(const QString &path, QIODevice::OpenMode mode);
+    QChar *makeRoom(qsizetype count);
     bool flush();
     bool writeBytes();
     bool putInPlace();
@@ -89,7 +91,8 @@ private:
     QFile m_file;
     QString m_target; ///< what `m_file` is renamed to in the end; empty when written straight
     std::optional<TextEncoder> m_encoder;
-    QString m_text;     ///< not encoded yet
+    std::vector<QChar> m_text; ///< its first `m_used` characters are not encoded yet
+    std::size_t m_used = 0;
     QByteArray m_bytes; ///< encoded, not written yet
     FileStatus m_status;
 };

@@ -65,22 +65,25 @@ QString placedDigits(double value)
     exponent = down ? -exponent : exponent;
 
     const bool negative = text.front() == '-';
-    QString digits;
+    std::array<QChar, significantDigits> digits;
+    qsizetype count = 0;
     for (const char c : text.substr(0, mark)) {
         if (c >= '0' && c <= '9')
-            digits += QLatin1Char(c);
+            digits[static_cast<std::size_t>(count++)] = QLatin1Char(c);
     }
-    while (digits.size() > 1 && digits.endsWith(u'0'))
-        digits.chop(1);
+    while (count > 1 && digits[static_cast<std::size_t>(count - 1)] == u'0')
+        --count;
 
+    const QStringView all(digits.data(), count);
     const qsizetype whole = exponent + 1; // digits ahead of the point
+    QString placed = negative ? u"-"_s : QString();
     if (whole <= 0)
-        digits = u"0."_s + QString(-whole, u'0') + digits;
-    else if (whole >= digits.size())
-        digits += QString(whole - digits.size(), u'0');
+        placed.append(u"0.").append(QString(-whole, u'0')).append(all);
+    else if (whole >= count)
+        placed.append(all).append(QString(whole - count, u'0'));
     else
-        digits.insert(whole, u'.');
-    return negative ? u'-' + digits : digits;
+        placed.append(all.first(whole)).append(u'.').append(all.sliced(whole));
+    return placed;
 }
 
 } // namespace

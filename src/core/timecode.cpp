@@ -135,6 +135,15 @@ void subtract(Fields &difference, const Fields &b)
     }
 }
 
+/// As many digits as there are, two at least.
+QChar *putPadded(QChar *at, qint64 value)
+{
+    if (value >= 0 && value <= 99)
+        return putTwo(at, static_cast<int>(value));
+    const QString text = (value < 10 ? u"0"_s : QString()) + QString::number(value);
+    return std::copy(text.begin(), text.end(), at);
+}
+
 } // namespace
 
 double TimeCodeToMs(QStringView code)
@@ -161,18 +170,22 @@ QString TimeCodeAdd(QStringView a, QStringView b, QChar op)
 QString SecondsToTimeCode(QStringView text)
 {
     const qsizetype point = text.indexOf(u'.');
-    QString fraction = point < 0 ? u".000"_s : text.sliced(point).toString();
-    if (fraction.size() < 4)
-        fraction = fraction.leftJustified(4, u'0');
-
     constexpr double greatest = 1e15;
     const double whole = Val(point < 0 ? text : text.first(point));
     const qint64 seconds = static_cast<qint64>(std::clamp(whole, -greatest, greatest));
-    const auto field = [](qint64 value) {
-        return value < 10 ? u'0' + QString::number(value) : QString::number(value);
-    };
-    return field(seconds / 3600) + u':' + field(seconds / 60 % 60) + u':' + field(seconds % 60)
-           + u',' + fraction.last(3);
+
+    std::array<QChar, 48> buffer; // the hours of the greatest number have twelve digits
+    QChar *at = putPadded(buffer.data(), seconds / 3600);
+    *at++ = u':';
+    at = putPadded(at, seconds / 60 % 60);
+    *at++ = u':';
+    at = putPadded(at, seconds % 60);
+    *at++ = u',';
+    const QStringView fraction = point < 0 ? QStringView() : text.sliced(point + 1);
+    const QStringView digits = Right(fraction, 3);
+    at = std::copy(digits.begin(), digits.end(), at);
+    at = std::fill_n(at, 3 - digits.size(), u'0');
+    return QString(buffer.data(), at - buffer.data());
 }
 
 } // namespace kavro

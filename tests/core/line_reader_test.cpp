@@ -150,15 +150,16 @@ TEST(LineReader, UnreadableFile)
     EXPECT_EQ(reader.open(path).fault, FileFault::Unreadable);
 }
 
-// A piece is 1 MiB: what lies across its end must read as anywhere else.
+// A piece is 64 KiB: what lies across its end must read as anywhere else.
 TEST(LineReader, AcrossTheEndOfAPiece)
 {
-    constexpr qsizetype piece = 1 << 20;
+    constexpr qsizetype piece = 1 << 16;
     const struct
     {
         const char *name;
         QByteArray across; ///< its third byte is the first of the next piece
         const char *lines; ///< behind the filling line
+        std::optional<TextEncoding> encoding = {};
     } rows[] = {
         {"CR LF", "x\r\ny\n", "x|y"},
         {"CR LF at the file's end", "x\r\n", "x"},
@@ -168,12 +169,14 @@ TEST(LineReader, AcrossTheEndOfAPiece)
         {"a sequence of two bytes", "x\xC3\xA9y", "xéy"},
         {"a sequence of four bytes", "x\xF0\x9F\x98\x80y", "x😀y"},
         {"a line", "xyz", "xyz"},
+        {"a character of Shift_JIS", "x\x82\xA0y", "xあy", encodingByName(u"Shift_JIS")},
     };
     for (const auto &row : rows) {
         const TestFolder folder;
         const QByteArray filling = QByteArray(piece - 3, 'f') + '\n';
         LineReader reader;
-        ASSERT_TRUE(reader.open(folder.write("file", filling + row.across)).ok());
+        const QString path = folder.write("file", filling + row.across);
+        ASSERT_TRUE(reader.open(path, {.encoding = row.encoding}).ok());
         for (int pass = 0; pass < 2; ++pass) {
             ASSERT_FALSE(reader.atEnd());
             EXPECT_EQ(reader.readLine().size(), piece - 3);
@@ -185,7 +188,7 @@ TEST(LineReader, AcrossTheEndOfAPiece)
 
 TEST(LineReader, LineOutlivesTheQuestionForTheEnd)
 {
-    constexpr qsizetype piece = 1 << 20;
+    constexpr qsizetype piece = 1 << 16;
     const TestFolder folder;
     const QByteArray block = QByteArray(piece / 2 - 1, 'a') + '\n';
     LineReader reader;
