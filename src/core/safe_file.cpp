@@ -57,13 +57,14 @@ Destination destinationOf(const QString &path)
     QString at = path;
     for (int hop = 0; hop < mostLinks; ++hop) {
         const QFileInfo info(at);
-        // "/dev/stdout" may lead to a regular file, which a shell goes on appending to.
-        if (at.startsWith("/proc/"_L1))
+        const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
+        // "/dev/stdout" and "/dev/fd/1" may lead to a regular file, which a shell goes on
+        // appending to.
+        if (folder.startsWith("/proc/"_L1))
             return {.path = path, .straight = true};
         if (!info.isSymLink())
             return {.path = at, .straight = info.exists() && !info.isFile() && !info.isDir()};
         // ".." in a link counts from the true folder of the link.
-        const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
         at = QFileInfo(folder + u'/' + info.fileName()).symLinkTarget();
     }
     return {.path = path, .circle = true};
