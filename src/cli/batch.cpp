@@ -1,0 +1,76 @@
+#include "cli/batch.h"
+
+#include "app/program.h"
+
+#include <QFileInfo>
+
+namespace kavro {
+
+using namespace Qt::StringLiterals;
+
+VerbFolders::VerbFolders(const QString &appDir)
+    : folders(store, FolderSources::ofMachine(appDir, QFile::symLinkTarget(u"/proc/self/exe"_s)),
+              FolderUse::Shipped)
+{}
+
+QList<QCommandLineOption> loadCallOptions()
+{
+    return {
+        {u"from"_s, u"Format of the input; \"detect\" looks at the lines alone."_s, u"FORMAT"_s},
+        {u"fps"_s, u"Frame rate of the input: 23.97, 24, 25, 29.97 or 30."_s, u"RATE"_s},
+        {u"encoding"_s, u"Encoding of the input, whatever its bytes say."_s, u"NAME"_s}};
+}
+
+LoadResult loadFile(Program &program, const QString &path, const LoadOptions &options, bool add)
+{
+    LoadRequest request;
+    request.path = absolutePath(path);
+    request.format = options.format;
+    request.linesDecide = options.linesDecide;
+    request.encoding = options.encoding;
+    if (add)
+        request.nextRow = program.editor.grdSubEdit.rows() - 1;
+    return program.loader.LoadSubFile(request);
+}
+
+Batch::Batch(const QString &appDir, std::optional<Answer> answer, const Streams &streams)
+    : ports(streams.err, answer), disk(appDir)
+{}
+
+bool Batch::prepare()
+{
+    const FileStatus status = disk.folders.prepare();
+    if (!status.ok())
+        ports.messages.tell(u"The application folder can't be used: %1."_s.arg(status.text));
+    return status.ok();
+}
+
+std::unique_ptr<Program> Batch::newProgram(const LoadOptions &options)
+{
+    auto program = std::make_unique<Program>(ports.ports(), disk.store, disk.folders);
+    program->startForVerb();
+    if (options.frameRate)
+        program->frameRates.optFrameRate[*options.frameRate].setOn();
+    return program;
+}
+
+Batch::Loaded Batch::load(Program &program, const QString &path, const LoadOptions &options,
+                          bool add)
+{
+    BatchMessages &messages = ports.messages;
+    messages.subject = path;
+    const int before = messages.count;
+    const LoadResult result = loadFile(program, path, options, add);
+    if (result.kind == LoadResult::Kind::Loaded) {
+        if (result.skippedLines > 0)
+            messages.tell(result.skippedLines == 1
+                              ? u"A bad line was skipped."_s
+                              : u"%1 bad lines were skipped."_s.arg(result.skippedLines));
+        return result.skippedLines > 0 ? Loaded::Partly : Loaded::Whole;
+    }
+    if (messages.count == before)
+        messages.tell(result.error.isEmpty() ? u"No subtitle was loaded."_s : result.error);
+    return Loaded::No;
+}
+
+} // namespace kavro
