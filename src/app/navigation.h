@@ -86,6 +86,8 @@ public:
     void addRecent(const QString &path);
     /// Brings a page of the help to the front if the big commands shall do so.
     void autoHelp(int page);
+    /// The help page of a page of the window, with the tab that its inner tabs show.
+    [[nodiscard]] int helpOfMainTab(int tab) const;
     /// Opens the help's index, and its tab.
     void mnuHelpIndex();
     /// True when a click on that node of the tree, or on one below it, leads somewhere now; a view
@@ -112,7 +114,6 @@ private:
     void showPage(const TreeNode &node);
     void loadRecent(const QString &path);
     void enterMainTab(int tab);
-    [[nodiscard]] int helpOfMainTab(int tab) const;
     void enterPlayer();
     void openBottomPanel(bool open);
     void record(int code, int page);
