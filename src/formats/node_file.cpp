@@ -54,7 +54,7 @@ std::vector<Node> readNodes(LineReader &lines)
 std::vector<Node> fitted(std::vector<Node> nodes, int rows)
 {
     std::erase_if(nodes, [rows](const Node &node) {
-        return node.lastRow < node.firstRow || node.firstRow > rows;
+        return node.firstRow < 1 || node.lastRow < node.firstRow || node.firstRow > rows;
     });
     const auto inOrder = [](const Node &a, const Node &b) { return a.firstRow >= b.firstRow; };
     if (nodes.empty() || std::ranges::adjacent_find(nodes, inOrder) != nodes.end())
