@@ -89,7 +89,7 @@ constexpr LanguageRow messageBoxes[] = {
     {52, u"cmdAction(1)", u"OK"},
     {53, u"cmdAction(2)", u"No"},
     {54, u"cmdAction(3)", u"Yes"},
-    {55, u"Label2(0)", u"Variable"},
+    {55, u"Label2(0)", u"Name"},
     {56, u"Label2(1)", u"Value"},
 };
 
