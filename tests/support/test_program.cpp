@@ -79,7 +79,7 @@ QString TestProgram::read(const QString &path)
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
-    return QString::fromUtf8(file.readAll()).replace(u"\r\n"_s, u"\n"_s);
+    return u""_s + QString::fromUtf8(file.readAll()).replace(u"\r\n"_s, u"\n"_s);
 }
 
 QStringList TestProgram::rows()
@@ -107,6 +107,18 @@ QStringList TestProgram::takeMessages()
     }
     doors.messages.shown.clear();
     return texts;
+}
+
+QString settingsWith(int line, int value)
+{
+    constexpr int lines = 22;
+    constexpr int frameRateLine = 12;
+    constexpr int languageLine = 20;
+    QStringList numbers(lines, u" 0 "_s);
+    numbers[frameRateLine - 1] = u" 2 "_s;
+    numbers[languageLine - 1].clear();
+    numbers[line - 1] = QString::number(value);
+    return numbers.join(u'\n') + u'\n';
 }
 
 QString twoSubtitles()

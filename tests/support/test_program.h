@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/program.h"
+#include "tests/support/print.h"
 #include "tests/support/scripted_ports.h"
 
 #include <QString>
@@ -77,6 +78,9 @@ private:
     std::unique_ptr<Folders> m_folders;
     std::unique_ptr<Program> m_program;
 };
+
+/// The lines of a set.sdf in which all is off, but for one of its lines (1 to 22).
+QString settingsWith(int line, int value);
 
 /// Two subtitles of SubRip, for tests that need any file.
 QString twoSubtitles();
