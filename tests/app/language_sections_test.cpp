@@ -4,6 +4,7 @@
 #include "tests/app/language_entries.h"
 #include "tests/support/test_program.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QSet>
@@ -153,10 +154,19 @@ QHash<QString, QString> textsOf(const QString &path)
     return texts;
 }
 
-class ShippedPack : public ::testing::TestWithParam<const char *>
+std::vector<std::string> shippedPacks()
+{
+    std::vector<std::string> names;
+    for (const QString &file : QDir(languages + u"Source"_s).entryList({u"*.txt"_s})) {
+        names.push_back(file.chopped(4).toStdString());
+    }
+    return names;
+}
+
+class ShippedPack : public ::testing::TestWithParam<std::string>
 {
 protected:
-    QString name = QString::fromLatin1(GetParam());
+    QString name = QString::fromStdString(GetParam());
     QString sourceFile = languages + u"Source/"_s + name + u".txt"_s;
     QString packFile = languages + name + u".lng"_s;
 };
@@ -201,7 +211,8 @@ TEST_P(ShippedPack, LoadsAndFindsItsHelp)
     EXPECT_EQ(run->language.text(LangGroup::Common, 39) + u'^', texts[u"[Other]39"_s]);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ShippedPack, ::testing::Values("Dutch"));
+INSTANTIATE_TEST_SUITE_P(All, ShippedPack, ::testing::ValuesIn(shippedPacks()),
+                         [](const auto &pack) { return pack.param; });
 
 TEST(LangpackScript, AgreesWithTheProgram)
 {
