@@ -176,13 +176,25 @@ def ids():
 
 
 def untested():
-    """A header that no test includes and that has no test of its name."""
-    seen = {name for path in sources("tests") for _, name, quoted in includes_of(path) if quoted}
-    for path in sources("src"):
-        name = path.removeprefix("src/")
-        test = f"tests/{name.removesuffix('.h')}_test.cpp"
-        if path.endswith(".h") and name not in seen and not os.path.isfile(test):
-            yield Fault(path, 1, "no test includes this header")
+    """A header that has no test of its name and that no test leads to within the header's folder."""
+    def quoted(path):
+        return {name for _, name, quotes in includes_of(path) if quotes}
+
+    headers = {path.removeprefix("src/") for path in sources("src") if path.endswith(".h")}
+    reached = {name for path in sources("tests") for name in quoted(path)} & headers
+    reached |= {name for name in headers
+                if os.path.isfile(f"tests/{name.removesuffix('.h')}_test.cpp")}
+    todo = sorted(reached)
+    while todo:
+        name = todo.pop()
+        for path in (f"src/{name}", f"src/{name.removesuffix('.h')}.cpp"):
+            if os.path.isfile(path):
+                more = {other for other in quoted(path) & headers - reached
+                        if other.split("/")[0] == name.split("/")[0]}
+                reached |= more
+                todo += more
+    for name in sorted(headers - reached):
+        yield Fault(f"src/{name}", 1, "no test leads to this header")
 
 
 def grep(pattern, text):
