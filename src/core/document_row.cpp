@@ -9,6 +9,7 @@
 
 #include <QStringBuilder>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -42,16 +43,24 @@ bool holdsWord(QStringView style, const QString &word)
     return !word.isEmpty() && style.contains(word, Qt::CaseInsensitive);
 }
 
-/// Selects the first entry that equals `text` in any case of letters, if there is one. Runs at each
-/// step to another row over hundreds of fonts, so nothing is folded into new texts here.
+/// Equality in any case of letters. Runs at each step to another row over hundreds of fonts, many
+/// of which begin alike: what differs in length or at the end is told apart first.
+bool equalsFolded(QStringView a, QStringView b)
+{
+    return a.size() == b.size()
+           && (a.isEmpty()
+               || (a.back().toCaseFolded() == b.back().toCaseFolded()
+                   && a.compare(b, Qt::CaseInsensitive) == 0));
+}
+
+/// Selects the first entry that equals `text`, if there is one.
 void selectEntry(ListBox &list, QStringView text)
 {
     const QStringList &items = list.items();
-    for (qsizetype i = 0; i < items.size(); ++i) {
-        if (text.compare(items.at(i), Qt::CaseInsensitive) == 0) {
-            list.setSelected(static_cast<int>(i));
-            return;
-        }
+    const auto found = std::ranges::find_if(
+        items, [text](const QString &item) { return equalsFolded(item, text); });
+    if (found != items.end()) {
+        list.setSelected(static_cast<int>(found - items.begin()));
     }
 }
 
