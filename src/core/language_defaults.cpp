@@ -96,7 +96,7 @@ constexpr DefaultText texts[] = {
     {Report, 7, u"An error was found while reading the file."},
     {Report, 8, u"Do you want to be asked about further errors in this file?"},
     {Report, 9, u"File with errors"},
-    {Report, 10, u"Writing subtitle file ... "},
+    {Report, 10, u"Writing file"},
     {Report, 11, u"Writing of the file has ended."},
     {Report, 12, u"Warning"},
     {Report, 13, u"Error"},

@@ -56,7 +56,7 @@ protected:
 TEST_F(MessagesTest, OnlyTheTemplateIsExpanded)
 {
     messages.expandVariables = [](QString text) {
-        return text.replace(u"sysVar[1]"_s, u"/home/nora"_s);
+        return text.replace(u"sysVar[1]"_s, u"/films/nora"_s);
     };
     const struct
     {
@@ -64,10 +64,10 @@ TEST_F(MessagesTest, OnlyTheTemplateIsExpanded)
         MessageText text;
         QStringView shown;
     } rows[] = {
-        {"line breaks and variables", u"a/nb sysVar[1]"_s, u"a\r\nb /home/nora"},
+        {"line breaks and variables", u"a/nb sysVar[1]"_s, u"a\r\nb /films/nora"},
         {"a path",
-         {u"File '%1'/nis there."_s, {u"/home/nora/new.srt"_s}},
-         u"File '/home/nora/new.srt'\r\nis there."},
+         {u"File '%1'/nis there."_s, {u"/films/nora/new.srt"_s}},
+         u"File '/films/nora/new.srt'\r\nis there."},
         {"a variable's name in a value", {u"%1"_s, {u"sysVar[1]"_s}}, u"sysVar[1]"},
         {"a place in a value", {u"%1 and %2"_s, {u"%2"_s, u"%1"_s}}, u"%2 and %1"},
         {"in any order, twice", {u"%2%1%2"_s, {u"a"_s, u"b"_s}}, u"bab"},
