@@ -214,14 +214,18 @@ bool FileCommands::mnuSave()
         return mnuSavesubfile();
     }
     // The path is taken as it stands: a file may hold a format under another one's extension.
-    const WriteResult result = write({.format = document.curFormatId,
-                                      .lastRow = document.subtitleCount(),
-                                      .showProgress = true,
-                                      .path = document.savedPath,
-                                      .literal = true,
-                                      .askOverwrite = false});
+    const WriteResult result = m_parts.writer.CreateSubFile({.format = document.curFormatId,
+                                                             .lastRow = document.subtitleCount(),
+                                                             .showProgress = true,
+                                                             .path = document.savedPath,
+                                                             .literal = true,
+                                                             .askOverwrite = false});
+    const bool written = result.kind == WriteResult::Kind::Written;
+    if (written) {
+        documentWritten(result);
+    }
     m_parts.trace.RecordAction({}, SaveCode);
-    return result.kind == WriteResult::Kind::Written;
+    return written;
 }
 
 bool FileCommands::mayWriteErrors()
@@ -272,28 +276,26 @@ bool FileCommands::mnuSavesubfile()
 
 WriteResult FileCommands::WriteSubtitleFile(const QString &path, int formatId, int lastRow)
 {
-    const WriteResult result =
-        write({.format = formatId, .lastRow = lastRow, .showProgress = true, .path = path});
+    WriteResult result = m_parts.writer.CreateSubFile(
+        {.format = formatId, .lastRow = lastRow, .showProgress = true, .path = path});
+    // Only a write that succeeded may name the document and end its changes.
     if (result.kind == WriteResult::Kind::Written) {
         nameDocument(result.path, formatId);
         m_parts.navigation.addRecent(result.path);
+        documentWritten(result);
     }
     return result;
 }
 
-WriteResult FileCommands::write(const WriteRequest &request)
+void FileCommands::documentWritten(const WriteResult &result)
 {
-    WriteResult result = m_parts.writer.CreateSubFile(request);
-    if (result.kind == WriteResult::Kind::Written) {
-        SubtitleDocument &document = m_parts.document;
-        document.savedPath = result.path;
-        document.savedFormatId = request.format;
-        document.setFileChanged(result.firstRowLeft > 0);
-        m_parts.nodeFile.SaveSubControl(result.path);
-        m_parts.menu.mnuReopen.setEnabled(true);
-        showEncoding();
-    }
-    return result;
+    SubtitleDocument &document = m_parts.document;
+    document.savedPath = result.path;
+    document.savedFormatId = document.curFormatId;
+    document.setFileChanged(result.firstRowLeft > 0);
+    m_parts.nodeFile.SaveSubControl(result.path);
+    m_parts.menu.mnuReopen.setEnabled(true);
+    showEncoding();
 }
 
 void FileCommands::mnuSaveSettings()

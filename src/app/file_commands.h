@@ -95,7 +95,7 @@ private:
     void loadPath(const QString &path, int format);
     void load(LoadRequest &request);
     void takeScdFile(const ScdFile &file);
-    WriteResult write(const WriteRequest &request);
+    void documentWritten(const WriteResult &result);
     void fillFileProperties();
 
     Parts m_parts;

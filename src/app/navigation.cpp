@@ -96,14 +96,11 @@ std::optional<ScreenPos> readScreenPos(const QString &path)
 Navigation::Navigation(Form &frmMain, const Parts &parts)
     : TV1(frmMain, u"TV1"_s),
       Combo13(frmMain, u"Combo13"_s),
-      tabMain(frmMain, u"tabMain"_s,
-              {u"Calculator"_s, u"Partition"_s, u"Editor"_s, u"Media Player"_s, u"Diagnose"_s,
-               u"Macro's"_s, u"Online"_s}),
-      tabCalculator(frmMain, u"tabCalculator"_s, {u"Advanced"_s, u"Classic"_s}),
-      tabClipboard(frmMain, u"tabClipboard"_s,
-                   {u"Clipboard"_s, u"Script Player"_s, u"Help"_s, u"Info"_s}),
-      SSTab1(frmMain, u"SSTab1"_s, {u"Selection"_s, u"Help"_s}),
-      SSTab5(frmMain, u"SSTab5"_s, {u"Download"_s, u"Upload"_s}),
+      tabMain(frmMain, u"tabMain"_s, 7),
+      tabCalculator(frmMain, u"tabCalculator"_s, 2),
+      tabClipboard(frmMain, u"tabClipboard"_s, 4),
+      SSTab1(frmMain, u"SSTab1"_s, 2),
+      SSTab5(frmMain, u"SSTab5"_s, 2),
       command55(frmMain, u"command55"_s),
       m_parts(parts)
 {

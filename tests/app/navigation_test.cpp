@@ -1,0 +1,297 @@
+#include "app/help_pages.h"
+#include "tests/support/test_program.h"
+
+#include <QFileInfo>
+
+#include <gtest/gtest.h>
+
+namespace kavro::test {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class Navigating : public testing::Test
+{
+protected:
+    Navigating()
+    {
+        run.start();
+        run->splash.ExitfrmSplash();
+        run.doors.help.opened.clear();
+        run->trace.RecordAction({}, -1);
+    }
+
+    void click(const QString &key)
+    {
+        TreeView &tree = run->navigation.TV1;
+        ASSERT_NE(tree.find(key), TreeView::noNode) << key.toStdString();
+        tree.click(tree.find(key));
+    }
+
+    TestProgram run;
+};
+
+TEST_F(Navigating, PagesOfTheTreeBringTheirTabsToTheFront)
+{
+    struct Case
+    {
+        QString key;
+        int mainTab;
+        TabStrip &inner;
+        int innerTab;
+        int code;
+    };
+    Navigation &navigation = run->navigation;
+    EditorPage &editor = run->editor;
+    for (const Case &given :
+         {Case{u"calc"_s, 0, navigation.tabMain, 0, 1},
+          Case{u"classic"_s, 0, navigation.tabCalculator, 1, 3},
+          Case{u"part"_s, 1, navigation.tabMain, 1, 4},
+          Case{u"edit"_s, 2, navigation.tabMain, 2, 5}, Case{u"font"_s, 2, editor.SSTab2, 3, 9},
+          Case{u"fr"_s, 2, editor.SSTab3, 3, 13}, Case{u"mp"_s, 3, navigation.tabMain, 3, 14},
+          Case{u"diag"_s, 4, navigation.tabMain, 4, 15},
+          Case{u"macro"_s, 5, navigation.tabMain, 5, 16},
+          Case{u"ul"_s, 6, navigation.SSTab5, 1, 19},
+          Case{u"sp"_s, 6, navigation.tabClipboard, 1, 21}})
+    {
+        SCOPED_TRACE(given.key.toStdString());
+        click(given.key);
+        EXPECT_EQ(navigation.tabMain.tab(), given.mainTab);
+        EXPECT_EQ(given.inner.tab(), given.innerTab);
+        EXPECT_EQ(run->trace.lastActionCode, given.code);
+    }
+}
+
+TEST_F(Navigating, CommandsWithoutADocumentAreRefusedInWords)
+{
+    for (const QString &key : {u"add"_s, u"save_sub"_s, u"print"_s, u"preview"_s}) {
+        click(key);
+    }
+    EXPECT_TRUE(run.doors.files.shown.isEmpty());
+    EXPECT_EQ(run.doors.messages.shown.constFirst().title, u"Warning"_s);
+    const QStringList texts = run.takeMessages();
+    ASSERT_EQ(texts.size(), 4);
+    EXPECT_EQ(texts.at(0), u"You can not add a file while there is no primairy file loaded first. "
+                           "Please load a primairy file first. Press Ok to continue."_s);
+    EXPECT_TRUE(texts.at(3).startsWith(u"You can not view any content"_s));
+
+    run->dropFile(run.write(u"a.srt"_s, twoSubtitles()));
+    for (const QString &key : {u"add"_s, u"save_sub"_s, u"preview"_s, u"settings"_s, u"file"_s}) {
+        click(key);
+    }
+    EXPECT_EQ(run.doors.files.shown.size(), 2);
+    EXPECT_EQ(run.takeMessages(), QStringList());
+}
+
+TEST_F(Navigating, NodesThatLeadNowhereYetAreKnown)
+{
+    const auto leads = [&](const QString &key) {
+        return run->navigation.leadsSomewhere(run->navigation.TV1.find(key));
+    };
+    for (const QString &key :
+         {u"menu"_s, u"file"_s, u"new"_s, u"edit"_s, u"basic"_s, u"clip"_s, u"help"_s})
+    {
+        EXPECT_TRUE(leads(key)) << key.toStdString();
+    }
+    for (const QString &key :
+         {u"recent"_s, u"collection"_s, u"options"_s, u"calc"_s, u"adv"_s, u"shift"_s})
+    {
+        EXPECT_FALSE(leads(key)) << key.toStdString();
+    }
+    run->navigation.addRecent(u"/a.srt"_s);
+    EXPECT_TRUE(leads(u"recent"_s));
+    EXPECT_TRUE(leads(u"lf_/a.srt"_s));
+}
+
+TEST_F(Navigating, RecentNodesLoadTheirFile)
+{
+    const QString first = run.write(u"first.srt"_s, twoSubtitles());
+    const QString second = run.write(u"second.srt"_s, twoSubtitles());
+    run->dropFile(first);
+    run->dropFile(second);
+    run->dropFile(first);
+    EXPECT_EQ(run->navigation.Combo13.items(), QStringList({first, second}));
+    EXPECT_EQ(run->navigation.Combo13.selected(), 0);
+    click(u"lf_"_s + second);
+    EXPECT_EQ(run->document.subFileName, second);
+    ASSERT_TRUE(QFile::remove(first));
+    click(u"lf_"_s + first);
+    EXPECT_EQ(run->document.subFileName, second);
+    EXPECT_EQ(run.takeMessages().size(), 1);
+}
+
+TEST_F(Navigating, StoredRecentFilesStandInTheTree)
+{
+    run.writeApp(u"System/Settings/set.sdf"_s, settingsWith(1, 0));
+    run.writeApp(u"System/recent.sdf"_s, u"/x.srt\n/y.srt\n"_s);
+    run.restart();
+    run.start();
+    const TreeView &tree = run->navigation.TV1;
+    const QList<int> nodes = tree.node(tree.find(u"recent"_s)).children;
+    ASSERT_EQ(nodes.size(), 2);
+    EXPECT_EQ(tree.node(nodes.at(1)).text, u"/y.srt"_s);
+    EXPECT_EQ(tree.node(nodes.at(1)).key, u"lf_/y.srt"_s);
+}
+
+TEST_F(Navigating, CopyButtonsFollowThePage)
+{
+    struct Case
+    {
+        const char *name;
+        TabStrip &tabs;
+        int tab;
+        QString first;
+        QString second; ///< empty while it is hidden
+    };
+    Navigation &navigation = run->navigation;
+    TabStrip &timing = run->editor.SSTab3;
+    for (const Case &given :
+         {Case{"stretch", timing, 1, u"Copy.To.First"_s, u"Copy.To.Last"_s},
+          Case{"time", timing, 2, u"Copy.To.Start"_s, u"Copy.To.End"_s},
+          Case{"shift", timing, 0, u"Copy.To.Duration"_s, {}},
+          Case{"advanced", navigation.tabMain, 0, u"Copy.To.Spreadsheet"_s, {}},
+          Case{"classic", navigation.tabCalculator, 1, u"Copy.To.A"_s, u"Copy.To.B"_s},
+          Case{"partition", navigation.tabMain, 1, u"Copy.To.Partitionlist"_s, {}},
+          Case{"editor again", navigation.tabMain, 2, u"Copy.To.Duration"_s, {}}})
+    {
+        SCOPED_TRACE(given.name);
+        given.tabs.pick(given.tab);
+        const auto &copy = run->clipboard.command4;
+        EXPECT_EQ(copy[0].caption(), given.first);
+        EXPECT_EQ(copy[1].isVisible(), !given.second.isEmpty());
+        if (copy[1].isVisible()) {
+            EXPECT_EQ(copy[1].caption(), given.second);
+        }
+        EXPECT_FALSE(copy[0].toolTip().isEmpty());
+    }
+}
+
+TEST_F(Navigating, BottomPanelOpensWithAnotherPage)
+{
+    Button &toggle = run->navigation.command55[0];
+    TabStrip &panel = run->navigation.tabClipboard;
+    EXPECT_EQ(toggle.caption(), u"-"_s);
+    toggle.click();
+    EXPECT_EQ(toggle.caption(), u"+"_s);
+    EXPECT_FALSE(panel.isVisible());
+    run->navigation.tabMain.pick(2);
+    EXPECT_FALSE(panel.isVisible()) << "the page that shows already";
+    run->navigation.tabMain.pick(4);
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_EQ(toggle.caption(), u"-"_s);
+}
+
+TEST_F(Navigating, PlayerPageRefreshesItsListForAMovie)
+{
+    run->dropFile(run.write(u"a.srt"_s, twoSubtitles()));
+    run->document.markEdited();
+    run->player.Combo1.clear();
+    run->navigation.tabMain.pick(3);
+    EXPECT_EQ(run->player.Combo1.count(), 0) << "there is no movie";
+    EXPECT_EQ(run->player.Label27.caption(), u"Stopped [Media Player]"_s);
+    run.doors.player.file = u"/a.avi"_s;
+    run->navigation.tabMain.pick(3);
+    EXPECT_EQ(run->player.Combo1.count(), 2);
+    EXPECT_TRUE(run->document.subtitleChanged);
+}
+
+TEST_F(Navigating, RecorderKeepsItsOwnTabOut)
+{
+    run->trace.recorderState = 1;
+    run->navigation.tabMain.pick(5);
+    EXPECT_EQ(run->trace.lastActionCode, -1);
+    run->navigation.tabMain.setTab(3);
+    EXPECT_EQ(run->trace.lastActionCode, -1) << "setting records nothing";
+    run->navigation.tabMain.pick(3);
+    EXPECT_EQ(run->trace.lastActionCode, 14);
+}
+
+TEST_F(Navigating, AutoHelpOpensThePageOfWhatIsDone)
+{
+    const auto lastPage = [&] {
+        return run.doors.help.opened.isEmpty()
+                   ? QString()
+                   : QFileInfo(run.doors.help.opened.constLast()).fileName();
+    };
+    run->navigation.tabMain.pick(2);
+    run->menu.mnuLoadFile.click();
+    EXPECT_EQ(lastPage(), QString());
+    EXPECT_EQ(run->navigation.SSTab1.tab(), 0);
+
+    run->settings.Check7[SettingsPage::AutoHelp].setOn(true);
+    run->navigation.tabMain.pick(2);
+    EXPECT_EQ(lastPage(), u"edit_bas.htm"_s);
+    EXPECT_EQ(run->navigation.SSTab1.tab(), 1);
+    run->editor.SSTab2.pick(2);
+    EXPECT_EQ(lastPage(), u"edit_fil.htm"_s);
+    run->editor.SSTab3.pick(1);
+    EXPECT_EQ(lastPage(), u"edit_str.htm"_s);
+    run->navigation.tabClipboard.pick(1);
+    EXPECT_EQ(lastPage(), u"main_sp.htm"_s);
+    run->menu.mnuLoadFile.click();
+    EXPECT_EQ(lastPage(), u"file_load.htm"_s);
+    run->menu.mnuSaveSettings.click();
+    EXPECT_EQ(lastPage(), u"file_sset.htm"_s);
+}
+
+TEST_F(Navigating, HelpMenuOpensIndexTipsAndAbout)
+{
+    click(u"onlinehelp"_s);
+    EXPECT_TRUE(run.doors.help.opened.constLast().endsWith(u"/help/index.htm"_s));
+    EXPECT_EQ(run->trace.lastActionCode, 107);
+    run->frmTip.hide();
+    click(u"showtips"_s);
+    EXPECT_TRUE(run->frmTip.isOpen());
+    EXPECT_EQ(run->trace.lastActionCode, 108);
+    run.takeMessages();
+    click(u"about"_s);
+    EXPECT_TRUE(run.takeMessages().constFirst().contains(u"Kavro 4.0"_s));
+    run->help.show();
+    EXPECT_TRUE(run.doors.help.opened.constLast().endsWith(u"/System/helpcenter.htm"_s));
+    run->help.cmdOk.click();
+    EXPECT_FALSE(run->frmHelp.isOpen());
+    click(u"exit"_s);
+    EXPECT_TRUE(run->hasEnded());
+}
+
+TEST(Help, EveryPageIsShipped)
+{
+    const QString folder =
+        QStringLiteral(KAVRO_SOURCE_DIR) + u"/share/System/Language/Help/English/"_s;
+    for (int page = 0; page < helpPageCount; ++page) {
+        EXPECT_TRUE(QFileInfo::exists(folder + helpPage(page))) << page;
+    }
+    EXPECT_EQ(helpPage(-1), QString());
+    EXPECT_EQ(helpPage(30), QString());
+}
+
+TEST(Tips, AreShownAtRandomAndFollowTheSetting)
+{
+    TestProgram run;
+    run->tips.show();
+    EXPECT_TRUE(run->tips.lblTipText.caption().startsWith(u"That the tip.sdf file was not"_s));
+    run->tips.cmdNextTip.click();
+    EXPECT_TRUE(run->tips.lblTipText.caption().startsWith(u"That the tip.sdf file was not"_s));
+
+    run.writeApp(u"System/Language/Help/English/tip.sdf"_s, u"one\ntwo\nthree\n"_s);
+    run.doors.random.value = 0.5;
+    run->tips.show();
+    EXPECT_EQ(run->tips.lblTipText.caption(), u"two"_s);
+    run.doors.random.value = 0.999;
+    run->tips.cmdNextTip.click();
+    EXPECT_EQ(run->tips.lblTipText.caption(), u"three"_s);
+
+    CheckBox &showTips = run->settings.Check7[SettingsPage::ShowTips];
+    CheckBox &showWizard = run->settings.Check7[SettingsPage::ShowWizard];
+    run->tips.chkLoadTipsAtStartup.check(false);
+    EXPECT_FALSE(showTips.isOn());
+    showWizard.setOn(true);
+    run->tips.chkLoadTipsAtStartup.check(true);
+    EXPECT_TRUE(showTips.isOn());
+    EXPECT_FALSE(showWizard.isOn()) << "tips and wizard exclude each other";
+    run->tips.cmdOk.click();
+    EXPECT_FALSE(run->frmTip.isOpen());
+}
+
+} // namespace
+} // namespace kavro::test
