@@ -115,7 +115,7 @@ Folders::~Folders()
 void Folders::chooseRoot(const FolderSources &sources, FolderUse use)
 {
     if (sources.appDir.isEmpty() && use == FolderUse::Shipped) {
-        m_root = m_shipped;
+        m_root = m_shipped.isEmpty() ? sources.executableFolder : m_shipped;
         m_written = u"%1/kavro-%2"_s.arg(sources.temporary)
                         .arg(QRandomGenerator::system()->generate64(), 16, 16, QChar(u'0'));
         return;
@@ -195,6 +195,8 @@ FileStatus Folders::fill()
 void Folders::lockTemporary()
 {
     const QString folder = matchName(m_root, pathOf(Folder::Temporary));
+    if (!QFileInfo(folder).isWritable())
+        return;
     m_lock = tryLock(folder);
     for (int number = 2; !m_lock && number < mostPrograms; ++number) {
         const QString name = runPrefix + QString::number(number);

@@ -43,7 +43,7 @@ struct FolderSources
     QString userData = {};         ///< the user's folder for this program's data
     QString temporary = {};        ///< the machine's folder of temporary files
 
-    /// Asks the environment; `executable` is the program's own path.
+    /// Asks the environment; `executable` is the path of the program's own file.
     static FolderSources ofMachine(const QString &appDir, const QString &executable);
 };
 

@@ -76,6 +76,11 @@ TEST_F(FoldersTest, RunsWithNothingShipped)
     auto folders = make();
     EXPECT_EQ(folders->shipped(), QString());
     EXPECT_EQ(disk.entries("home/kavro"), "Data System Systemtem");
+
+    folders = make(FolderUse::Shipped);
+    const QString path = folders->path(Folder::Settings, u"set.sdf");
+    EXPECT_EQ(path, disk.path("home/far/away/System/Settings/set.sdf")) << "is simply missing";
+    EXPECT_EQ(folders->files(Folder::Language, u"*.lng"), QStringList());
 }
 
 TEST_F(FoldersTest, UpdateReplacesNothing)
