@@ -23,9 +23,8 @@ EditorPage::EditorPage(Form &frmMain)
       Command47(frmMain, u"Command47"_s),
       Label74(frmMain, u"Label74"_s),
       Label75(frmMain, u"Label75"_s),
-      SSTab2(frmMain, u"SSTab2"_s,
-             {u"Basic"_s, u"Search/Replace"_s, u"Filters"_s, u"Font"_s, u"Time"_s}),
-      SSTab3(frmMain, u"SSTab3"_s, {u"Shift"_s, u"Stretch"_s, u"Time"_s, u"Frame Rate"_s})
+      SSTab2(frmMain, u"SSTab2"_s, 5),
+      SSTab3(frmMain, u"SSTab3"_s, 4)
 {
     lstFont.setVisible(false);
 }
