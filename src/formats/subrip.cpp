@@ -14,7 +14,12 @@ namespace kavro {
 
 namespace {
 
-constexpr QStringView arrow = u"-->";
+/// The place of the arrow that a time line has; 0 for another line. Most lines have no dash, and
+/// one character is found much sooner than three.
+qsizetype arrowAt(QStringView line)
+{
+    return line.contains(u'-') ? InStr(line, u"-->") : 0;
+}
 
 /// A text line without its style marks, and the style that they name.
 struct StyledLine
@@ -37,8 +42,10 @@ StyledLine cutMarks(QStringView line)
         dropped += 7;
         cut.style = style;
     };
-    take(u"<b>", StyledLine::Bold);
-    take(u"<i>", StyledLine::Italic);
+    if (line.contains(u'<')) {
+        take(u"<b>", StyledLine::Bold);
+        take(u"<i>", StyledLine::Italic);
+    }
     cut.text = Mid(line, 1 + skipped, line.size() - dropped);
     return cut;
 }
@@ -67,7 +74,7 @@ private:
 
     void readText(QStringView line)
     {
-        const qsizetype at = InStr(line, arrow);
+        const qsizetype at = arrowAt(line);
         if (at == 0 && !m_textAwaited && m_blankBefore && Val(line) > 0)
             m_frame.newRow();
         else if (at > 0)
@@ -124,7 +131,7 @@ public:
     {
         FileCount count;
         while (!lines.atEnd()) {
-            if (lines.readLine().contains(arrow))
+            if (arrowAt(lines.readLine()) > 0)
                 ++count.subtitles;
         }
         return count;

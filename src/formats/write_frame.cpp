@@ -29,9 +29,17 @@ void WriteFrame::moveTo(int row)
     m_start = TimeCodeAdd(trimmed(grid.text(row, StartColumn)), m_partOffset, u'-');
     m_end = TimeCodeAdd(trimmed(grid.text(row, EndColumn)), m_partOffset, u'-');
     findLines(row);
-    const QString font = m_document.fontEntry(row);
-    m_bold = !m_boldWord.isEmpty() && font.contains(m_boldWord);
-    m_italic = !m_italicWord.isEmpty() && font.contains(m_italicWord);
+    findStyle(m_document.fontEntry(row));
+}
+
+// Most rows share one entry, the very same text in memory.
+void WriteFrame::findStyle(const QString &fontEntry)
+{
+    if (fontEntry.constData() == m_fontEntry.constData())
+        return;
+    m_fontEntry = fontEntry;
+    m_bold = !m_boldWord.isEmpty() && fontEntry.contains(m_boldWord);
+    m_italic = !m_italicWord.isEmpty() && fontEntry.contains(m_italicWord);
 }
 
 void WriteFrame::findLines(int row)

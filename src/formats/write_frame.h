@@ -54,6 +54,7 @@ public:
 
 private:
     void findLines(int row);
+    void findStyle(const QString &fontEntry);
 
     const SubtitleDocument &m_document;
     QString m_boldWord;
@@ -65,6 +66,7 @@ private:
     QString m_end;
     std::array<QStringView, 3> m_lines; ///< of the grid's cells, which stay while a file is written
     std::size_t m_lineCount = 0;
+    QString m_fontEntry; ///< that bold and italic were found in
     bool m_bold = false;
     bool m_italic = false;
 };

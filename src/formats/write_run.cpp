@@ -130,15 +130,14 @@ void WriteRun::makeText(const QString &path)
 
 bool WriteRun::acceptsNegativeTime(const QString &path)
 {
-    const QString error = report(13);
-    const QString doing =
-        m_request.preview ? u" calculating Preview file. "_s : u" creating %2. "_s;
-    return m_parts.messages.ShowMessage(
-               {u"%1"_s % doing
-                    % u"Negative time calculated during Partitioning./n"
-                      "Please do not partition in subtitle display time. Continue?",
-                {error, path}},
-               Answer::No, u"yesno"_s, error)
+    const QString text = m_request.preview
+                             ? u"%1 calculating Preview file. Negative time calculated during "
+                               "Partitioning./nPlease do not partition in subtitle display time. "
+                               "Continue?"_s
+                             : u"%1 creating %2. Negative time calculated during Partitioning./n"
+                               "Please do not partition in subtitle display time. Continue?"_s;
+    return m_parts.messages.ShowMessage({text, {report(13), path}}, Answer::No, u"yesno"_s,
+                                        report(13))
            == Answer::Yes;
 }
 
