@@ -41,7 +41,7 @@ TEST(ControlJson, TellsWhatEveryControlHas)
     button.setToolTip(u"tip"_s);
     button.setForeColor(Color::fromBgr(0x0000FF));
     EXPECT_EQ(jsonOf(button),
-              R"({"control": "frmMain.Command8(2)", "enabled": false, "visible": false, )"
+              R"j({"control": "frmMain.Command8(2)", "enabled": false, "visible": false, )j"
               R"("toolTip": "tip", "foreColor": "FF0000", "backColor": null, "caption": "Play"})");
 }
 
@@ -103,7 +103,7 @@ TEST(ControlJson, AFoldedListReadsDisabled)
     DropList list(form, u"Combo14"_s, 0, {.toggle = u"Label29"_s, .label = u"Label46"_s});
     list.setItems({u"24.000"_s});
     list.setSelected(0);
-    EXPECT_EQ(jsonOf(list).find(R"({"control": "frmMain.Combo14(0)", "enabled": false)"), 0U);
+    EXPECT_EQ(jsonOf(list).find(R"j({"control": "frmMain.Combo14(0)", "enabled": false)j"), 0U);
     EXPECT_EQ(kindOf(list), R"("index": 0, "items": ["24.000"], "text": "24.000"})");
 }
 

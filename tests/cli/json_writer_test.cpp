@@ -1,9 +1,9 @@
 #include "cli/json_writer.h"
 
-#include <gtest/gtest.h>
-
 #include <QJsonArray>
 #include <QJsonDocument>
+
+#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -50,7 +50,7 @@ const TextCase textCases[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Cases, JsonText, testing::ValuesIn(textCases),
-                         [](const auto &info) { return info.param.name; });
+                         [](const auto &one) { return one.param.name; });
 
 TEST(JsonWriter, NumbersHaveNoExponent)
 {

@@ -1,0 +1,198 @@
+#include "tests/cli/cli_fixture.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace kavro::test {
+namespace {
+
+const std::string filmAsSubViewer2 =
+    "[INFORMATION]\n[AUTHOR]\n[SOURCE]\n[PRG]\n[FILEPATH]\n"
+    "[DELAY]0\n[CD TRACK]0\n[COMMENT]\n[END INFORMATION]\n"
+    "[SUBTITLE]\n[COLF]&HFFFFFF,[STYLE]no,[SIZE]29, [Font]Arial\n"
+    "\n00:00:01.00,00:00:02.50\nThe first line\n\n"
+    "00:00:03.25,00:00:04.99\nTwo lines,[br]one of them leaning\n\n";
+
+const CliRun nothingTold{.status = 0, .out = {}, .err = {}};
+
+class Convert : public CliTest
+{
+protected:
+    /// `line` is split at blanks.
+    CliRun convert(const QString &line) { return run((u"convert "_s + line).split(u' ')); }
+};
+
+TEST_F(Convert, WritesTheOtherFormatAndNothingElse)
+{
+    const QStringList before = filesIn();
+    EXPECT_EQ(convert(u"film.srt --to 12 -o out"_s), nothingTold);
+    EXPECT_EQ(read(u"out.sub"_s), filmAsSubViewer2);
+    EXPECT_EQ(filesIn().size(), before.size() + 1);
+}
+
+struct Naming
+{
+    const char *name;
+    QString options;
+    QString file;
+};
+
+class ConvertNaming : public Convert, public testing::WithParamInterface<Naming>
+{};
+
+TEST_P(ConvertNaming, LeadsTo)
+{
+    QDir().mkdir(u"dir.d"_s);
+    EXPECT_EQ(convert(u"film.srt "_s + GetParam().options), nothingTold);
+    EXPECT_TRUE(QFileInfo(GetParam().file).isFile());
+}
+
+const Naming namings[] = {
+    {"extensionIsReplaced", u"--to 12 -o a.b.srt"_s, u"a.b.sub"_s},
+    {"pointOfTheFolderIsNone", u"--to 12 -o dir.d/a"_s, u"dir.d/a.sub"_s},
+    {"formatByName", u"--to tmplayer -o a"_s, u"a.txt"_s},
+    {"formatByExtension", u"--to .srt -o a"_s, u"a.srt"_s},
+    {"folder", u"--to 11 --out-dir dir.d"_s, u"dir.d/film.sub"_s},
+    {"folderIsMade", u"--to 11 --out-dir new/deep"_s, u"new/deep/film.sub"_s},
+};
+
+INSTANTIATE_TEST_SUITE_P(Cases, ConvertNaming, testing::ValuesIn(namings),
+                         [](const auto &one) { return one.param.name; });
+
+TEST_F(Convert, LeavesAFileThatIsThereAlone)
+{
+    write(u"film.sub"_s, "old");
+    const CliRun kept{.status = 1,
+                      .out = {},
+                      .err =
+                          "film.srt: FOLDER/film.sub is there already, --overwrite replaces it.\n"};
+    EXPECT_EQ(convert(u"film.srt --to 12 --out-dir ."_s), kept);
+    EXPECT_EQ(convert(u"film.srt --to 12 --out-dir . --answer yes"_s), kept);
+    EXPECT_EQ(read(u"film.sub"_s), "old");
+    EXPECT_EQ(convert(u"film.srt --to 12 --out-dir . --overwrite"_s), nothingTold);
+    EXPECT_EQ(read(u"film.sub"_s), filmAsSubViewer2);
+}
+
+TEST_F(Convert, InputAndOutputMayBeTheSameFile)
+{
+    EXPECT_EQ(convert(u"player.txt --to 13 -o player.txt --overwrite"_s), nothingTold);
+    EXPECT_EQ(read(u"player.txt"_s), "00:00:01,0=What is this?\n00:00:02,5=\n");
+}
+
+TEST_F(Convert, TwoInputsForOneFileWriteNothing)
+{
+    QDir().mkdir(u"other"_s);
+    QFile::copy(u"small.srt"_s, u"other/film.txt"_s);
+    const CliRun refused = convert(u"film.srt small.srt other/film.txt --to 12 --out-dir out"_s);
+    EXPECT_EQ(refused,
+              (CliRun{.status = 1,
+                      .out = {},
+                      .err = "kavro-cli: film.srt and other/film.txt would both be written "
+                             "to FOLDER/out/film.sub, nothing was written.\n"}));
+    EXPECT_FALSE(QFileInfo::exists(u"out"_s));
+    EXPECT_EQ(convert(u"film.srt small.srt --to 12 -o x"_s).status, 1);
+    EXPECT_FALSE(QFileInfo::exists(u"x.sub"_s));
+}
+
+TEST_F(Convert, TwoNamesThatALinkJoinsAreOneFile)
+{
+    write(u"film.sub"_s, "old");
+    QFile::link(u"film.sub"_s, u"small.sub"_s);
+    EXPECT_EQ(convert(u"film.srt small.srt --to 12 --out-dir . --overwrite"_s).status, 1);
+    EXPECT_EQ(read(u"film.sub"_s), "old");
+}
+
+TEST_F(Convert, AfterAFailedInputTheOthersGoOn)
+{
+    const CliRun mixed = convert(u"film.srt none.srt small.srt --to 12 --out-dir out"_s);
+    EXPECT_EQ(mixed.status, 1);
+    EXPECT_EQ(mixed.err, "none.srt: Error: File 'FOLDER/none.srt' can't be loaded.\n"
+                         "  The file doesn't exist.\n");
+    EXPECT_EQ(filesIn(u"out"_s), (QStringList{u"film.sub"_s, u"small.sub"_s}));
+}
+
+TEST_F(Convert, EachOutputIsThatOfACallForItAlone)
+{
+    // The font of the first one's header, its encoding and its frame rate stay with it.
+    write(u"a.sub"_s, "[INFORMATION]\r\n[COLF]&HFFFFFF,[style]no,[size]29, [font]Verdana\r\n"
+                      "00:00:01.00,00:00:02.00\r\nx\r\n\r\n");
+    write(u"b.srt"_s, "\xEF\xBB\xBF"
+                      "1\n00:00:01,000 --> 00:00:02,000\n\xC3\xA9\n\n");
+    const QStringList names{u"a.sub"_s, u"b.srt"_s, u"film.srt"_s};
+    EXPECT_EQ(convert(names.join(u' ') + u" --to 12 --out-dir together"_s).status, 0);
+    for (const QString &name : names)
+        EXPECT_EQ(convert(name + u" --to 12 --out-dir alone"_s).status, 0);
+    for (const QString &name : filesIn(u"alone"_s))
+        EXPECT_EQ(read(u"together/"_s + name), read(u"alone/"_s + name)) << qPrintable(name);
+    EXPECT_EQ(filesIn(u"together"_s), filesIn(u"alone"_s));
+    EXPECT_EQ(read(u"alone/b.sub"_s).find("\xEF\xBB\xBF"), 0U);
+}
+
+TEST_F(Convert, ASkippedLineIsToldAndTheRestWritten)
+{
+    const CliRun partly = convert(u"four.srt --to tmplayer -o out"_s);
+    EXPECT_EQ(partly.status, 1);
+    EXPECT_NE(partly.err.find("four.srt: A bad line was skipped.\n"), std::string::npos);
+    EXPECT_EQ(read(u"out.txt"_s), "00:00:01,0=one|two|three\n00:00:02,0=\n");
+}
+
+TEST_F(Convert, RowsThatCanNotBeWrittenAreTold)
+{
+    write(u"late.srt"_s, "1\n00:00:01,000 --> 00:00:02,000\none\n\n"
+                         "2\n00:00:03,000 --> never ended\ntwo\n\n");
+    const CliRun short_ = convert(u"late.srt --to 9 -o out"_s);
+    EXPECT_EQ(short_.out, "");
+    EXPECT_EQ(short_.status, read(u"out.srt"_s).find("two") == std::string::npos ? 1 : 0);
+}
+
+TEST_F(Convert, EncodingsGoInAndOut)
+{
+    write(u"cyrillic.srt"_s, "1\n00:00:01,000 --> 00:00:02,000\n\xCF\xF0\xE8\xE2\xE5\xF2\n\n");
+    EXPECT_EQ(convert(u"cyrillic.srt --encoding windows-1251 --to 13 -o same"_s), nothingTold);
+    EXPECT_EQ(read(u"same.txt"_s), "00:00:01,0=\xCF\xF0\xE8\xE2\xE5\xF2\n00:00:02,0=\n");
+    EXPECT_EQ(convert(u"cyrillic.srt --encoding cp1251 --output-encoding utf-8 --to 13 -o utf8"_s),
+              nothingTold);
+    EXPECT_EQ(read(u"utf8.txt"_s), "00:00:01,0=Привет\n00:00:02,0=\n");
+}
+
+TEST_F(Convert, TextThatTheEncodingLacksIsNotWrittenUnlessTheAnswerIsYes)
+{
+    write(u"cyrillic.srt"_s, "1\n00:00:01,000 --> 00:00:02,000\nПривет\n\n");
+    const QString call = u"cyrillic.srt --to 13 -o out --output-encoding windows-1252"_s;
+    const CliRun no = convert(call);
+    EXPECT_EQ(no.status, 1);
+    EXPECT_NE(no.err.find("Answered no.\ncyrillic.srt: FOLDER/out.txt was not written.\n"),
+              std::string::npos)
+        << no.err;
+    EXPECT_EQ(read(u"out.txt"_s), "-");
+    EXPECT_EQ(convert(call + u" --answer yes"_s).status, 0);
+    EXPECT_EQ(read(u"out.txt"_s), "00:00:01,0=Привет\n00:00:02,0=\n");
+}
+
+TEST_F(Convert, TheLinesDecideWhenAskedTo)
+{
+    QFile::rename(u"player.txt"_s, u"player.srt"_s);
+    EXPECT_EQ(convert(u"player.srt --from detect --to 9 -o out"_s), nothingTold);
+    EXPECT_EQ(read(u"out.srt"_s), "1\n00:00:01,000 --> 00:00:02,500\nWhat is this?\n\n");
+}
+
+TEST_F(Convert, AFormatThatCanNotBeWrittenYetIsNamed)
+{
+    const CliRun refused = convert(u"film.srt --to microdvd -o out"_s);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_NE(refused.err.find("MicroDVD"), std::string::npos);
+    EXPECT_EQ(read(u"out.sub"_s), "-");
+}
+
+TEST_F(Convert, AFolderThatCanNotBeWrittenIsTold)
+{
+    write(u"wall"_s, "a file where a folder would have to be");
+    const CliRun refused = convert(u"film.srt --to 12 --out-dir wall"_s);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.err, "film.srt: Error: Error writing file (Not a directory).\n"
+                           "film.srt: FOLDER/wall/film.sub was not written.\n");
+}
+
+} // namespace
+} // namespace kavro::test
