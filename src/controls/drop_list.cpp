@@ -25,8 +25,12 @@ DropList::DropList(Form &form, const QString &name, int index, const Names &name
 
 void DropList::setAvailable(bool available)
 {
-    m_available = available;
-    show();
+    if (m_available != available) {
+        m_available = available;
+        show();
+        // A folded list reads disabled either way, while a view shows whether it is available.
+        emit lookChanged();
+    }
 }
 
 void DropList::setFolded(bool folded)
