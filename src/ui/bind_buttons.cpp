@@ -1,0 +1,63 @@
+#include "ui/bind_buttons.h"
+
+#include "controls/control.h"
+#include "ui/bind_look.h"
+
+#include <QAction>
+#include <QCheckBox>
+
+namespace kavro {
+
+namespace {
+
+template <class Clickable>
+void bindClickable(QAbstractButton &view, Clickable &control)
+{
+    bindLook(view, control);
+    const auto show = [&view, &control] { view.setText(withoutMnemonic(control.caption())); };
+    QObject::connect(&control, &CaptionControl::captionChanged, &view, show);
+    QObject::connect(&view, &QAbstractButton::clicked, &control, [&control] { control.click(); });
+    show();
+}
+
+} // namespace
+
+void bind(QAbstractButton &view, Button &button)
+{
+    bindClickable(view, button);
+}
+
+void bind(QAbstractButton &view, Label &label)
+{
+    bindClickable(view, label);
+}
+
+void bind(QCheckBox &view, CheckBox &box)
+{
+    bindLook(view, box);
+    const auto caption = [&view, &box] { view.setText(withoutMnemonic(box.caption())); };
+    QObject::connect(&box, &CheckBox::captionChanged, &view, caption);
+    caption();
+    view.setChecked(box.isOn());
+    // `clicked` is a person's alone, `setChecked` doesn't raise it.
+    QObject::connect(&view, &QCheckBox::clicked, &box, [&box](bool on) { box.check(on); });
+    QObject::connect(&box, &CheckBox::valueChanged, &view,
+                     [&view](bool on) { view.setChecked(on); });
+}
+
+void bind(QAction &action, Button &button)
+{
+    action.setObjectName(button.nameWithIndex());
+    const auto follow = [&action, &button] {
+        action.setText(withoutMnemonic(button.caption()));
+        action.setToolTip(button.toolTip());
+        action.setEnabled(button.isEnabled());
+        action.setVisible(button.isVisible());
+    };
+    QObject::connect(&button, &Control::lookChanged, &action, follow);
+    QObject::connect(&button, &CaptionControl::captionChanged, &action, follow);
+    QObject::connect(&action, &QAction::triggered, &button, [&button] { button.click(); });
+    follow();
+}
+
+} // namespace kavro

@@ -1,0 +1,120 @@
+#include "ui/bind_text.h"
+
+#include "controls/text_box.h"
+#include "ui/bind_look.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+
+namespace kavro {
+
+namespace {
+
+/// Tells a field's control of Enter and Escape; the window gets them too.
+class KeyFilter : public QObject
+{
+public:
+    KeyFilter(QLineEdit &edit, TextBox &box) : QObject(&edit), m_box(box)
+    {
+        edit.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress) {
+            return false;
+        }
+        switch (static_cast<QKeyEvent *>(event)->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter: m_box.press(Key::Enter); return false;
+        case Qt::Key_Escape: m_box.press(Key::Escape); return false;
+        default: return false;
+        }
+    }
+
+private:
+    TextBox &m_box;
+};
+
+void showText(QLineEdit &edit, const QString &text)
+{
+    if (edit.text() != text) {
+        edit.setText(text);
+    }
+}
+
+} // namespace
+
+void bind(QLineEdit &edit, TextBox &box, const QString &label)
+{
+    bindLook(edit, box, label);
+    bindTyping(edit, box);
+    new KeyFilter(edit, box);
+}
+
+void bindTyping(QLineEdit &edit, TextBox &box)
+{
+    showText(edit, box.text());
+    QObject::connect(&edit, &QLineEdit::textEdited, &box,
+                     [&box](const QString &text) { box.type(text); });
+    QObject::connect(&box, &TextBox::textChanged, &edit,
+                     [&edit](const QString &text) { showText(edit, text); });
+    QObject::connect(&box, &TextBox::selectionChanged, &edit, [&edit, &box] {
+        const bool same = edit.selectionStart() == static_cast<int>(box.selStart())
+                          && edit.selectionLength() == static_cast<int>(box.selLength());
+        if (!same) {
+            const QSignalBlocker quiet(edit);
+            edit.setSelection(static_cast<int>(box.selStart()), static_cast<int>(box.selLength()));
+        }
+    });
+    QObject::connect(&edit, &QLineEdit::selectionChanged, &box, [&edit, &box] {
+        const int start = edit.hasSelectedText() ? edit.selectionStart() : edit.cursorPosition();
+        const int length = static_cast<int>(edit.selectedText().size());
+        if (start != box.selStart() || length != box.selLength()) {
+            box.setSelection(start, length);
+        }
+    });
+}
+
+void bindLog(QPlainTextEdit &view, TextBox &box, const QString &label)
+{
+    bindLookInPlace(view, box, label);
+    view.setReadOnly(true);
+    const auto show = [&view, &box] {
+        view.setPlainText(box.text());
+        view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum());
+    };
+    QObject::connect(&box, &TextBox::textChanged, &view, show);
+    show();
+}
+
+void bindPreview(QLabel &label, TextBox &box, const QString &name)
+{
+    bindLookInPlace(label, box, name);
+    label.setTextFormat(Qt::PlainText);
+    label.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    const auto show = [&label, &box] {
+        QFont font = label.font();
+        font.setBold(box.isBold());
+        font.setItalic(box.isItalic());
+        label.setFont(font);
+        label.setText(box.text());
+    };
+    QObject::connect(&box, &TextBox::textChanged, &label, show);
+    QObject::connect(&box, &TextBox::fontChanged, &label, show);
+    show();
+}
+
+void bind(QLabel &view, Label &label)
+{
+    bindLook(view, label);
+    view.setTextFormat(Qt::PlainText);
+    const auto show = [&view, &label] { view.setText(label.caption()); };
+    QObject::connect(&label, &Label::captionChanged, &view, show);
+    show();
+}
+
+} // namespace kavro
