@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDialog>
+
+namespace kavro {
+
+class Form;
+
+/// A window that shows a form. Its close button is the form's affair; Escape closes nothing.
+class FormDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    FormDialog(Form &form, QWidget *parent);
+
+    [[nodiscard]] Form &form() { return m_form; }
+    /// Escape.
+    void reject() override {}
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    Form &m_form;
+};
+
+} // namespace kavro
