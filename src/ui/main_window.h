@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QMainWindow>
+
+class QSplitter;
+
+namespace kavro {
+
+class EditorPageView;
+class HelpPages;
+class PageTabs;
+class Program;
+
+/// The main window, `frmMain`: menus, the left panel, the pages, the foot. It opens and closes with
+/// its form.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Both are borrowed and outlive the window.
+    MainWindow(Program &program, HelpPages &help);
+
+    /// Shows the window where the program's stored place has it.
+    void open();
+    /// Takes what was typed in a cell as if Enter had been pressed.
+    void finishEdit();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void makePages();
+    void connectProgram();
+    void showTitle();
+    void showPageHelp();
+    void storePlace();
+    void end();
+    [[nodiscard]] EditorPageView *editorPage() const;
+
+    Program &m_program;
+    HelpPages &m_help;
+    QSplitter *m_splitter = nullptr;
+    PageTabs *m_tabs = nullptr;
+};
+
+} // namespace kavro

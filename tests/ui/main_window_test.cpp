@@ -1,0 +1,263 @@
+#include "ui/main_window.h"
+
+#include "tests/support/test_program.h"
+#include "ui/cell_editor.h"
+#include "ui/grid_view.h"
+#include "ui/help_browser.h"
+#include "ui/left_panel.h"
+#include "ui/navigation_tree.h"
+#include "ui/view_state.h"
+
+#include <QAction>
+#include <QDropEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace kavro::test {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class Window : public ::testing::Test
+{
+protected:
+    /// Starts with that file and shows the window.
+    void open(const QString &file)
+    {
+        run.start(file);
+        window = std::make_unique<MainWindow>(run.program(), pages);
+        window->open();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    void openFilm() { open(run.write(u"film.srt"_s, twoSubtitles())); }
+    QAction *action(const QString &name) { return window->findChild<QAction *>(name); }
+    void drop(const QString &path)
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton,
+                              Qt::NoModifier);
+        QApplication::sendEvent(window.get(), &enter);
+        QDropEvent event(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window.get(), &event);
+        QTest::qWait(1);
+    }
+
+    TestProgram run;
+    HelpPages pages;
+    std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(Window, TitleNamesTheFileAndMarksChanges)
+{
+    open(run.write(u"odd[*]name.srt"_s, twoSubtitles()));
+    EXPECT_EQ(window->windowTitle(), u"odd[*][*]name.srt[*] - Kavro"_s);
+    EXPECT_FALSE(window->isWindowModified());
+    run->document.markEdited();
+    EXPECT_TRUE(window->isWindowModified());
+    run->document.setFileChanged(false);
+    EXPECT_FALSE(window->isWindowModified());
+    run->fileCommands.mnuNewFile();
+    EXPECT_TRUE(window->windowTitle().startsWith(u"Noname"_s));
+}
+
+TEST_F(Window, MenusHoldWhatWorksAndNothingElse)
+{
+    openFilm();
+    QStringList titles;
+    for (const QAction *title : window->menuBar()->actions()) {
+        titles.append(title->text().remove(u'&'));
+        for (const QAction *entry : title->menu()->actions()) {
+            if (entry->isSeparator()) {
+                continue;
+            }
+            EXPECT_FALSE(entry->text().isEmpty()) << qPrintable(entry->objectName());
+            EXPECT_TRUE(entry->isVisible()) << qPrintable(entry->objectName());
+        }
+    }
+    EXPECT_EQ(titles, (QStringList{u"File"_s, u"Help"_s}));
+    EXPECT_EQ(action(u"mnuSave"_s)->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_S));
+    EXPECT_EQ(action(u"mnuSavesubfile"_s)->shortcut(),
+              QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+}
+
+TEST_F(Window, CommandTakesWhatIsBeingTyped)
+{
+    openFilm();
+    run->editor.grdSubEdit.setCurrent(1, 3);
+    auto *grid = window->findChild<GridView *>();
+    grid->setFocus();
+    QTest::keyClicks(grid, u"typed"_s);
+    ASSERT_TRUE(window->findChild<CellEditor *>()->isVisible());
+    action(u"mnuSave"_s)->trigger();
+    EXPECT_TRUE(TestProgram::read(run.path(u"film.srt"_s)).contains(u"\ntyped"_s));
+    EXPECT_FALSE(window->isWindowModified());
+}
+
+TEST_F(Window, ReopenAsOffersTheEncodings)
+{
+    openFilm();
+    QMenu *menu = action(u"mnuReopen"_s)->menu();
+    emit menu->aboutToShow();
+    ASSERT_EQ(menu->actions().size(), run->fileCommands.lstEncoding.count());
+    QStringList checked;
+    for (const QAction *entry : menu->actions()) {
+        if (entry->isChecked()) {
+            checked.append(entry->text());
+        }
+    }
+    EXPECT_EQ(checked, QStringList{run->fileCommands.lstEncoding.selectedText()});
+}
+
+TEST_F(Window, DropOpensTheFileAndAsksFirst)
+{
+    openFilm();
+    const QString other = run.write(u"other.srt"_s, twoSubtitles());
+    drop(other);
+    EXPECT_EQ(run->document.subFileName, other);
+    EXPECT_TRUE(run.takeMessages().isEmpty());
+
+    run->document.markEdited();
+    run.doors.messages.answer(Answer::Cancel);
+    drop(run.path(u"film.srt"_s));
+    EXPECT_EQ(run->document.subFileName, other) << "Cancel keeps the changes";
+    EXPECT_EQ(run.takeMessages().size(), 1);
+}
+
+TEST_F(Window, CloseAsksUntilTheAnswerIsNoOrTheSaveWent)
+{
+    openFilm();
+    run->document.markEdited();
+    run.doors.messages.answer(Answer::Yes); // the save's own window is cancelled
+    run.doors.messages.answer(Answer::No);
+    window->close();
+    EXPECT_TRUE(run->hasEnded());
+    EXPECT_TRUE(window->isHidden());
+    EXPECT_EQ(run.takeMessages().size(), 2);
+    EXPECT_EQ(run.doors.files.shown.size(), 1);
+}
+
+TEST_F(Window, PlaceAndSplitterComeBack)
+{
+    openFilm();
+    window->resize(1000, 640);
+    window->move(20, 30);
+    auto *splitter = window->findChild<QSplitter *>();
+    splitter->setSizes({300, 700});
+    const int left = splitter->sizes().constFirst();
+    window->close();
+    window.reset();
+    run.restart();
+    open(run.path(u"film.srt"_s));
+    EXPECT_EQ(window->pos(), QPoint(20, 30));
+    EXPECT_EQ(window->size(), QSize(1000, 640));
+    EXPECT_EQ(window->findChild<QSplitter *>()->sizes().constFirst(), left);
+}
+
+TEST_F(Window, PlaceOutsideTheScreenIsBroughtInside)
+{
+    run.writeApp(u"System/pos.sdf"_s, u"90000\n-60000\n14295\n9195\n"_s);
+    openFilm();
+    EXPECT_TRUE(window->screen()->availableGeometry().intersects(window->geometry()));
+    EXPECT_GE(window->y(), 0);
+}
+
+TEST_F(Window, TreeShowsWhatLeadsSomewhereAndActs)
+{
+    openFilm();
+    auto *tree = window->findChild<NavigationTree *>();
+    QStringList texts;
+    const auto walk = [&](auto &self, const QModelIndex &parent) -> void {
+        for (int row = 0; row < tree->model()->rowCount(parent); ++row) {
+            const QModelIndex node = tree->model()->index(row, 0, parent);
+            texts.append(node.data().toString());
+            self(self, node);
+        }
+    };
+    walk(walk, {});
+    EXPECT_TRUE(texts.contains(u"Load File .."_s));
+    EXPECT_TRUE(texts.contains(run.path(u"film.srt"_s))) << "a recent file";
+    EXPECT_FALSE(texts.contains(u"Media Player"_s)) << "a page that isn't there";
+
+    run.doors.files.cancel();
+    TreeView &nodes = run->navigation.TV1;
+    const auto *model = static_cast<TreeModel *>(tree->model());
+    tree->setCurrentIndex(model->indexOf(nodes.find(u"load"_s)));
+    QTest::keyClick(tree, Qt::Key_Return);
+    EXPECT_EQ(run.doors.files.shown.size(), 1);
+}
+
+TEST_F(Window, HelpKeyOpensThePagesHelp)
+{
+    openFilm();
+    QTest::keyClick(window.get(), Qt::Key_F1);
+    EXPECT_EQ(run->navigation.SSTab1.tab(), 1);
+    ASSERT_EQ(run.doors.help.opened.size(), 1);
+    EXPECT_TRUE(run.doors.help.opened.constFirst().endsWith(u"edit_bas.htm"_s));
+}
+
+TEST_F(Window, EveryControlHasANameAndAPlaceInTheTabOrder)
+{
+    openFilm();
+    QSet<QWidget *> reached;
+    for (QWidget *at = window->nextInFocusChain(); at != window.get(); at = at->nextInFocusChain())
+    {
+        reached.insert(at);
+    }
+    for (QWidget *widget : window->findChildren<QWidget *>()) {
+        if (!widget->isVisible() || run->frmMain.control(widget->objectName()) == nullptr) {
+            continue;
+        }
+        EXPECT_FALSE(widget->accessibleName().isEmpty() && !qobject_cast<QLabel *>(widget))
+            << qPrintable(widget->objectName());
+        if (widget->focusPolicy() != Qt::NoFocus) {
+            EXPECT_TRUE(reached.contains(widget)) << qPrintable(widget->objectName());
+        }
+    }
+}
+
+TEST(HelpPages, NothingRemoteIsFetchedAndAMissingPageIsTold)
+{
+    HelpView view(nullptr);
+    view.openPage(u"/no/such/page.htm"_s);
+    EXPECT_TRUE(view.toPlainText().contains(u"/no/such/page.htm"_s));
+    view.setSource(QUrl(u"https://example.org/"_s));
+    EXPECT_TRUE(view.source().isLocalFile());
+    EXPECT_FALSE(
+        view.loadResource(QTextDocument::ImageResource, QUrl(u"http://example.org/a.png"_s))
+            .isValid());
+}
+
+TEST(ViewStates, DamagedFileGivesDefaults)
+{
+    struct Case
+    {
+        QString text;
+        int width;
+        bool maximized;
+    };
+    const Case cases[] = {
+        {{}, 0, false},
+        {u"left panel:=240\nmaximized:=1\n"_s, 240, true},
+        {u"maximized:=\nleft panel:=abc\nnonsense"_s, 0, false},
+        {u"left panel:=-5\n"_s, 0, false},
+        {u"left panel:=99999999999\n"_s, 4000, false},
+    };
+    for (const Case &c : cases) {
+        TestProgram run;
+        run.writeApp(u"System/view.sdf"_s, c.text);
+        const ViewState state = ViewState::read(run->folders);
+        EXPECT_EQ(state.leftPanelWidth, c.width) << qPrintable(c.text);
+        EXPECT_EQ(state.maximized, c.maximized) << qPrintable(c.text);
+    }
+}
+
+} // namespace
+} // namespace kavro::test
