@@ -151,7 +151,8 @@ bool LoadRun::countSubtitles(int format)
         return true;
     m_reader.restart();
     m_fileCount = formatInfo(format)->implementation()->count(m_reader);
-    m_count = m_firstRow + static_cast<int>(std::lround(m_fileCount.subtitles));
+    constexpr double most = 1e9;
+    m_count = m_firstRow + static_cast<int>(std::lround(std::min(m_fileCount.subtitles, most)));
     m_counted = format;
     return m_reader.status().ok();
 }
@@ -165,6 +166,9 @@ LoadResult LoadRun::readDocument()
 {
     if (m_request.showLog)
         logRead();
+    // Text ahead of the first subtitle goes into the header; what the last file left there ends.
+    if (m_firstRow == 1)
+        m_parts.document.fillColumnCaptions();
     m_reader.restart();
     ReadFrame frame({.lines = m_reader,
                      .document = m_parts.document,

@@ -75,6 +75,12 @@ void WriteFrame::writeLine(QStringView line)
     endLine();
 }
 
+void WriteFrame::replaceHalves()
+{
+    if (!m_text.isValidUtf16())
+        m_text = QString::fromUtf8(m_text.toUtf8());
+}
+
 void WriteFrame::putLines(QStringView separator)
 {
     for (std::size_t i = 0; i < m_lineCount; ++i) {

@@ -50,6 +50,9 @@ public:
     /// Puts the text lines with `separator` between them.
     void putLines(QStringView separator);
 
+    /// Puts a question mark for halves of surrogate pairs.
+    void replaceHalves();
+
     [[nodiscard]] QStringView text() const { return m_text; }
 
 private:

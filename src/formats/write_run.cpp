@@ -151,7 +151,12 @@ void WriteRun::showProgress()
 
 bool WriteRun::chooseEncoding(const QString &path)
 {
-    if (EncodingCheck(m_encoding).holds(m_frame.text()))
+    EncodingCheck check(m_encoding);
+    if (check.holds(m_frame.text()))
+        return true;
+    // A cut by position may have left half a character in a cell; no encoding holds that.
+    m_frame.replaceHalves();
+    if (check.holds(m_frame.text()))
         return true;
     const QString name = encodingText(m_encoding);
     const Answer answer =

@@ -62,6 +62,20 @@ TEST(SubRip, ReadsRows)
     }
 }
 
+TEST(SubRip, PutsTextAheadOfTheFirstNumberIntoTheHeader)
+{
+    FormatsFixture fixture;
+    const QString text = u"1\n00:00:01,000 --> 00:00:02,000\nx\n"_s;
+    fixture.load(fixture.write(u"a.srt"_s, u"Subtitles\n\n"_s + text));
+    EXPECT_EQ(fixture.rows(), "00:00:01,000 00:00:02,000| x");
+    EXPECT_EQ(fixture.cell(0, FirstTextColumn), u" Subtitles"_s);
+    fixture.load(fixture.write(u"b.srt"_s, text));
+    EXPECT_EQ(fixture.cell(0, FirstTextColumn), u"Text #1"_s);
+
+    fixture.add(fixture.write(u"c.srt"_s, u"\nmore\n\n"_s + text));
+    EXPECT_EQ(fixture.rows(), "00:00:01,000 00:00:02,000| more\n00:00:03,000 00:00:04,000| x");
+}
+
 TEST(SubRip, CutsMarksBlindlyAndKeepsTheStyle)
 {
     struct Case

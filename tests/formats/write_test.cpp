@@ -227,6 +227,15 @@ TEST(Write, OffersUtf8ForWhatTheEncodingHasNot)
     }
 }
 
+TEST(Write, ReplacesHalvesOfCharacters)
+{
+    FormatsFixture fixture;
+    fixture.setRows(seconds(1));
+    fixture.editor.grdSubEdit.setText(1, FirstTextColumn, u" a"_s + QChar(0xD83D));
+    EXPECT_EQ(fixture.written(TmPlayer), "00:00:01,0=a?\r\n00:00:02,0=\r\n");
+    EXPECT_EQ(fixture.takeMessages(), "");
+}
+
 TEST(Write, KeepsTheEncodingAndItsMark)
 {
     FormatsFixture fixture;
