@@ -46,6 +46,7 @@ struct WriteResult
     /// Of a plain run that ended early: the first row not written, 0 when all were.
     int firstRowLeft = 0;
     int rowsLeft = 0;
+    QStringList losses; ///< what the format can't hold of the rows written, a line each
 };
 
 /// The one writer of subtitle files.

@@ -36,14 +36,19 @@ constexpr int formatCount = 16;
 /// What the font controls offer after a load.
 enum class FontSupport { None, StylePerLine, FontPerFile };
 
+/// How exactly a file of the format holds a time.
+enum class TimeKept { Milliseconds, Hundredths, Tenths, Seconds, Frames };
+
 struct FormatInfo
 {
     FormatId id;
     QStringView name;
     QStringView extension; ///< with its point, as `SetSubFileExt` gives it
     QStringView timeBase;  ///< what a time in the file counts
+    TimeKept timeKept;
+    int hourDigits; ///< that a file of the format has room for, 1 or 2
     FontSupport fonts;
-    /// The reader and writer; nullptr while the program has none.
+    /// The reader and writer.
     const SubtitleFormat *(*implementation)();
 };
 

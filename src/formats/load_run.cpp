@@ -106,8 +106,6 @@ std::optional<LoadResult> LoadRun::examineFile()
         return fail(m_reader.status().text);
     if (m_format == UnknownFormat)
         return fail(u"It is no subtitle file of a format that Kavro knows."_s);
-    if (!formatInfo(m_format)->implementation)
-        return fail(u"Kavro can't read the format '%1' yet."_s.arg(formatName(m_format)));
     if (!countSubtitles(m_format))
         return fail(m_reader.status().text);
     return std::nullopt;
@@ -122,7 +120,7 @@ int LoadRun::formatOfFile()
                                : UnknownFormat;
     if (owner == UnknownFormat || !fileHasText())
         return looksAtLines(m_believed) ? formatOfLines(m_believed) : m_believed;
-    if (!formatInfo(owner)->implementation || !countSubtitles(owner) || m_fileCount.subtitles > 0)
+    if (!countSubtitles(owner) || m_fileCount.subtitles > 0)
         return owner;
     m_believed = owner;
     return formatOfLines(UnknownFormat);

@@ -1,6 +1,6 @@
-#include "core/line_reader.h"
 #include "core/text.h"
 #include "formats/implementations.h"
+#include "formats/positions.h"
 #include "formats/read_frame.h"
 #include "formats/write_frame.h"
 
@@ -47,13 +47,7 @@ class SubViewer1Format final : public SubtitleFormat
 {
 public:
     /// Counts lines, not subtitles.
-    [[nodiscard]] FileCount count(LineReader &lines) const override
-    {
-        FileCount count;
-        for (; !lines.atEnd(); lines.readLine())
-            ++count.subtitles;
-        return count;
-    }
+    [[nodiscard]] FileCount count(LineReader &lines) const override { return countAllLines(lines); }
 
     void read(ReadFrame &frame) const override
     {

@@ -1,6 +1,7 @@
 #include "core/line_reader.h"
 #include "core/text.h"
 #include "formats/implementations.h"
+#include "formats/positions.h"
 #include "formats/read_frame.h"
 #include "formats/write_frame.h"
 
@@ -17,25 +18,9 @@ constexpr QStringView header[] = {
     u"[CD TRACK]0",   u"[COMMENT]", u"[END INFORMATION]", u"[SUBTITLE]",
 };
 
-/// What stands behind `tag`, which is looked for in any case of letters but placed case-exactly: a
-/// tag spelled otherwise has the place 0, and its value is what stands from character 6 on.
-QStringView valueOf(QStringView line, QStringView tag)
-{
-    return Mid(line, InStr(line, tag) + tag.size());
-}
-
 bool holds(QStringView line, QStringView tag)
 {
     return line.contains(tag, Qt::CaseInsensitive);
-}
-
-/// Cut ahead of the first character that is no number, or is one of no value: "20" becomes "2".
-QStringView digitsOf(QStringView text)
-{
-    qsizetype length = 0;
-    while (length < text.size() && Val(text.sliced(length, 1)) != 0)
-        ++length;
-    return text.first(length);
 }
 
 /// Reads the header lines; the font entry that they give to all rows.
@@ -46,9 +31,9 @@ QString readHeader(ReadFrame &frame)
     for (int i = 0; i < frame.count().headerLines && frame.readLine(); ++i) {
         const QStringView line = frame.line();
         if (holds(line, u"[size]"))
-            size = digitsOf(Left(valueOf(line, u"[size]"), 2)).toString();
+            size = digitsOf(Left(valueBehind(line, u"[size]"), 2)).toString();
         if (holds(line, u"[font]")) {
-            const QStringView value = valueOf(line, u"[font]");
+            const QStringView value = valueBehind(line, u"[font]");
             font =
                 value.first(value.contains(u',') ? value.indexOf(u',') : value.size()).toString();
         }

@@ -5,7 +5,7 @@
 #include "core/font_lists.h"
 #include "core/language.h"
 #include "core/text.h"
-#include "core/timecode.h"
+#include "formats/moved_time.h"
 
 namespace kavro {
 
@@ -26,8 +26,8 @@ void WriteFrame::moveTo(int row)
 {
     const Grid &grid = m_document.editor.grdSubEdit;
     ++m_outNumber;
-    m_start = TimeCodeAdd(trimmed(grid.text(row, StartColumn)), m_partOffset, u'-');
-    m_end = TimeCodeAdd(trimmed(grid.text(row, EndColumn)), m_partOffset, u'-');
+    m_start = movedTime(trimmed(grid.text(row, StartColumn)), m_partOffset, u'-');
+    m_end = movedTime(trimmed(grid.text(row, EndColumn)), m_partOffset, u'-');
     findLines(row);
     findStyle(m_document.fontEntry(row));
 }
@@ -45,12 +45,16 @@ void WriteFrame::findStyle(const QString &fontEntry)
 void WriteFrame::findLines(int row)
 {
     m_lineCount = 0;
+    m_textBehindGap = false;
+    bool gap = false;
     for (int column = FirstTextColumn; column <= LastTextColumn; ++column) {
         const QStringView line = trimmed(m_document.editor.grdSubEdit.text(row, column));
-        if (!line.isEmpty())
+        if (line.isEmpty())
+            gap = gap || column > FirstTextColumn;
+        else if (gap)
+            m_textBehindGap = true;
+        else
             m_lines[m_lineCount++] = line;
-        else if (column > FirstTextColumn)
-            return;
     }
 }
 

@@ -33,6 +33,8 @@ public:
     /// The trimmed text lines that aren't empty; the first empty column behind the first one ends
     /// them. Valid until the next `moveTo`.
     [[nodiscard]] std::span<const QStringView> lines() const;
+    /// True when text stands behind the empty column that ends the lines.
+    [[nodiscard]] bool hasTextBehindGap() const { return m_textBehindGap; }
     [[nodiscard]] bool isBold() const { return m_bold; }
     [[nodiscard]] bool isItalic() const { return m_italic; }
 
@@ -70,6 +72,7 @@ private:
     std::array<QStringView, 3> m_lines; ///< of the grid's cells, which stay while a file is written
     std::size_t m_lineCount = 0;
     QString m_fontEntry; ///< that bold and italic were found in
+    bool m_textBehindGap = false;
     bool m_bold = false;
     bool m_italic = false;
 };

@@ -35,32 +35,33 @@ WriteRun::WriteRun(SubtitleWriter &writer, const SubtitleWriter::Parts &parts,
     : m_writer(writer),
       m_parts(parts),
       m_request(request),
+      m_info(formatInfo(request.format)),
       m_frame(parts.document, parts.language),
       m_encoding(request.preview ? TextEncoding() : parts.document.encoding),
       m_partOffset(u"00:00:00,000"_s),
       m_row(std::max(request.firstRow, 1)),
       m_lastRow(std::min(request.lastRow, parts.document.subtitleCount()))
 {
-    const FormatInfo *info = formatInfo(request.format);
-    if (info && info->implementation)
-        m_format = info->implementation();
+    if (m_info)
+        m_format = m_info->implementation();
 }
 
 WriteResult WriteRun::run()
 {
     if (!m_format) {
-        const QString name = formatName(m_request.format);
-        fail(name.isEmpty() ? u"no subtitle format was chosen"_s
-                            : u"Kavro can't write the format '%1' yet"_s.arg(name));
+        fail(u"no subtitle format was chosen"_s);
         return m_result;
     }
     if (m_request.showProgress)
         m_parts.control.open(report(10));
     m_parts.partition.List2.clear();
+    if (!m_request.preview)
+        m_losses.emplace(*m_info);
     const int files = m_request.partition ? m_parts.partition.grid.rows() - 2 : 1;
     m_result.kind = Kind::Written;
     for (int number = 1; number <= files && writeFile(number); ++number) {
     }
+    tellLosses();
     m_parts.control.ProgressBar1.setValue(0);
     if (m_request.showProgress)
         m_parts.control.lblEnd.form().hide();
@@ -123,6 +124,8 @@ void WriteRun::makeText(const QString &path)
         if (!written)
             break;
         m_format->writeRow(m_frame);
+        if (m_losses)
+            m_losses->add(m_frame);
         ++m_result.rowsWritten;
     }
     m_format->writeTrailer(m_frame);
@@ -211,6 +214,16 @@ void WriteRun::tellRowsLeft()
          {QString::number(first), m_parts.document.editor.grdSubEdit.text(first, EndColumn),
           QString::number(m_result.rowsLeft)}},
         Answer::Ok, u"ok"_s, report(12));
+}
+
+// What a format can't hold is no fault; the log tells it once a run, for all its files.
+void WriteRun::tellLosses()
+{
+    if (!m_losses || m_result.files.isEmpty())
+        return;
+    m_result.losses = m_losses->lines();
+    for (const QString &line : std::as_const(m_result.losses))
+        m_parts.control.append(line % u"\r\n");
 }
 
 bool WriteRun::cancel(const QString &reason)

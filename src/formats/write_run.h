@@ -3,6 +3,7 @@
 #include "core/encoding.h"
 #include "core/file_status.h"
 #include "formats/create_subfile.h"
+#include "formats/losses.h"
 #include "formats/write_frame.h"
 
 #include <QString>
@@ -38,6 +39,7 @@ private:
     bool save(const QString &path);
     void takeName(const QString &path);
     void tellRowsLeft();
+    void tellLosses();
 
     bool cancel(const QString &reason);
     bool fail(const QString &description);
@@ -46,7 +48,9 @@ private:
     SubtitleWriter &m_writer;
     const SubtitleWriter::Parts &m_parts;
     const WriteRequest &m_request;
+    const FormatInfo *m_info; ///< nullptr when no format was chosen
     const SubtitleFormat *m_format = nullptr;
+    std::optional<Losses> m_losses; ///< of the file that is made
     WriteFrame m_frame;
     WriteResult m_result;
     TextEncoding m_encoding;

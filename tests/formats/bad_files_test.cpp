@@ -85,19 +85,6 @@ TEST(BadFiles, LoadInWindows1252WhenNothingFits)
     EXPECT_EQ(fixture.document.subtitleCount(), 1);
 }
 
-TEST(BadFiles, OfAFormatWithoutReaderNameIt)
-{
-    for (const FormatInfo &info : formatTable()) {
-        if (info.implementation)
-            continue;
-        BadFixture fixture;
-        const QString path = fixture.write(u"new"_s, u"prose\n"_s);
-        fixture.expectUntouched(fixture.load(path, info.id), path,
-                                "Kavro can't read the format '" + info.name.toString().toStdString()
-                                    + "' yet.");
-    }
-}
-
 TEST(BadFiles, ThatCannotBeOpened)
 {
     BadFixture fixture;

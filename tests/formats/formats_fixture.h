@@ -10,6 +10,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <gtest/gtest.h>
+
+#include <initializer_list>
 #include <optional>
 #include <string>
 
@@ -120,6 +123,28 @@ struct FormatsFixture : DocumentFixture
                                                 .nodeFile = nodeFile}};
     LoadRequest request; ///< of the last load, with what the load changed in it
 };
+
+struct ReadCase
+{
+    const char *name;
+    QString text;
+    const char *rows;
+    int skipped = 0;
+};
+
+/// Loads each text as that format and compares rows and skipped lines.
+inline void expectRows(int format, std::initializer_list<ReadCase> cases)
+{
+    for (const ReadCase &c : cases) {
+        SCOPED_TRACE(c.name);
+        FormatsFixture fixture;
+        const LoadResult result = fixture.load(fixture.write(QStringLiteral("a"), c.text), format);
+        EXPECT_EQ(result.kind, LoadResult::Kind::Loaded);
+        EXPECT_EQ(fixture.rows(), c.rows);
+        EXPECT_EQ(result.skippedLines, c.skipped);
+        EXPECT_EQ(fixture.messageWindow.shown.size(), c.skipped > 0 ? 1 : 0);
+    }
+}
 
 /// `text` with CR LF for each line feed.
 inline std::string crlf(const std::string &text)

@@ -7,28 +7,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-struct ReadCase
-{
-    const char *name;
-    QString text;
-    const char *rows;
-    int skipped = 0;
-};
-
-/// Loads each text as that format and compares rows and skipped lines.
-void expectRows(int format, std::initializer_list<ReadCase> cases)
-{
-    for (const ReadCase &c : cases) {
-        SCOPED_TRACE(c.name);
-        FormatsFixture fixture;
-        const LoadResult result = fixture.load(fixture.write(u"a"_s, c.text), format);
-        EXPECT_EQ(result.kind, LoadResult::Kind::Loaded);
-        EXPECT_EQ(fixture.rows(), c.rows);
-        EXPECT_EQ(result.skippedLines, c.skipped);
-        EXPECT_EQ(fixture.messageWindow.shown.size(), c.skipped > 0 ? 1 : 0);
-    }
-}
-
 const QString bracketed = u"[TITLE]\nfilm\n[AUTHOR]\nme\n[SOURCE]\n\n[BEGIN]\n* START *\n"_s;
 
 TEST(SubViewer1, ReadsTimesInBrackets)
