@@ -34,7 +34,7 @@ struct WriteResult
 {
     enum class Kind {
         Written,
-        Cancelled, ///< the person kept an existing file
+        Cancelled, ///< the person kept an existing file, or the encoding that can't hold the text
         Failed     ///< `error` says why; the old file is whole
     };
 
@@ -50,6 +50,11 @@ struct WriteResult
 };
 
 /// The one writer of subtitle files.
+///
+/// A plain run leaves the document's name and `fileChanged` to its caller; a partition run gives
+/// the document the name of the last part, and no file that may be saved to without a question.
+/// Both write in the document's encoding, which becomes UTF-8 when it can't hold the text and the
+/// person wants that. A fault is told in a message here.
 class SubtitleWriter
 {
 public:

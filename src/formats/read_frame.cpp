@@ -7,7 +7,7 @@
 #include "core/line_reader.h"
 #include "core/messages.h"
 #include "core/text.h"
-#include "core/timecode.h"
+#include "formats/moved_time.h"
 
 #include <QStringBuilder>
 
@@ -73,12 +73,12 @@ void ReadFrame::newRow()
 
 void ReadFrame::setStart(QStringView code)
 {
-    row()[StartColumn] = TimeCodeAdd(code, m_offset, u'+');
+    row()[StartColumn] = movedTime(code, m_offset, u'+');
 }
 
 void ReadFrame::setEnd(QStringView code)
 {
-    row()[EndColumn] = TimeCodeAdd(code, m_offset, u'+');
+    row()[EndColumn] = movedTime(code, m_offset, u'+');
 }
 
 bool ReadFrame::setText(int column, QStringView text)

@@ -14,11 +14,14 @@ namespace kavro {
 
 namespace {
 
-/// The place of the arrow that a time line has; 0 for another line. Most lines have no dash, and
-/// one character is found much sooner than three.
+/// The place of the arrow that a time line has; 0 for another line. One character is found much
+/// sooner than three.
 qsizetype arrowAt(QStringView line)
 {
-    return line.contains(u'-') ? InStr(line, u"-->") : 0;
+    qsizetype at = line.indexOf(u'-');
+    while (at >= 0 && !line.sliced(at).startsWith(u"-->"))
+        at = line.indexOf(u'-', at + 1);
+    return at + 1;
 }
 
 /// A text line without its style marks, and the style that they name.
@@ -67,6 +70,8 @@ public:
             else
                 readText(line);
         }
+        if (m_hasText)
+            m_frame.curFontName = u"Arial"_s;
     }
 
 private:
@@ -98,7 +103,7 @@ private:
         const StyledLine cut = cutMarks(line);
         if (m_frame.setText(m_column++, cut.text)) {
             m_frame.setFontEntry(m_entries[cut.style]);
-            m_frame.curFontName = u"Arial"_s;
+            m_hasText = true;
         }
         m_textAwaited = false;
     }
@@ -107,6 +112,7 @@ private:
     std::array<QString, 3> m_entries; ///< by style
     bool m_blankBefore = true;
     bool m_textAwaited = false;
+    bool m_hasText = false;
     int m_column = FirstTextColumn;
 };
 
