@@ -323,7 +323,7 @@ bool TextEncoder::append(QStringView text, QByteArray &bytes)
 }
 
 EncodingCheck::EncodingCheck(const TextEncoding &encoding)
-    : m_name(encoding.name), m_encoder(m_name.constData()), m_unicode(isUnicode(encoding.name))
+    : m_name(encoding.name), m_unicode(isUnicode(encoding.name))
 {}
 
 bool EncodingCheck::holds(QStringView text)
@@ -334,11 +334,14 @@ bool EncodingCheck::holds(QStringView text)
         return false;
     if (m_unicode)
         return true;
-    m_bytes.resize(m_encoder.requiredSpace(text.size()));
-    m_encoder.appendToBuffer(m_bytes.data(), text);
-    const bool held = !m_encoder.hasError();
+    if (!m_encoder)
+        m_encoder.emplace(m_name.constData());
+    m_bytes.resize(m_encoder->requiredSpace(text.size()));
+    m_encoder->appendToBuffer(m_bytes.data(), text);
+    const bool held = !m_encoder->hasError();
+    // The fault would stay, and an encoder that is moved into place would never find another.
     if (!held)
-        m_encoder = QStringEncoder(m_name.constData());
+        m_encoder.reset();
     return held;
 }
 

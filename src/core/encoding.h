@@ -108,9 +108,9 @@ public:
 
 private:
     QByteArray m_name;
-    QStringEncoder m_encoder;
     bool m_unicode;
-    QByteArray m_bytes; ///< kept from call to call for its memory
+    std::optional<QStringEncoder> m_encoder; ///< made anew behind a fault
+    QByteArray m_bytes;                      ///< kept from call to call for its memory
 };
 
 } // namespace kavro
