@@ -28,6 +28,8 @@ bool tellWrite(BatchMessages &messages, int before, const Output &output, const 
 {
     const bool told = messages.count > before;
     if (result.kind == WriteResult::Kind::Written) {
+        for (const QString &loss : result.losses)
+            messages.tell(loss);
         if (result.rowsLeft > 0 && !told)
             messages.tell(u"Row %1 could not be written, with it %2 rows are missing in %3."_s
                               .arg(result.firstRowLeft)
