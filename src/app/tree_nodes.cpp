@@ -63,7 +63,7 @@ constexpr std::array<TreeNode, treeNodeCount> table = {{
     {u"fr",         u"edit",       u"Frame Rate",              Page,         later, 2, Timing, 3},
     {u"dl",         u"online",     u"Download",                Page,         later, 6, Online, 0},
     {u"ul",         u"online",     u"Upload",                  Page,         later, 6, Online, 1},
-    {u"clip",       u"sub",        u"Clipboard",               Page,         built, -1, Bottom, 0},
+    {u"clip",       u"sub",        u"Clipboard",               Page,         later, -1, Bottom, 0},
     {u"sp",         u"sub",        u"Script Player",           Page,         later, -1, Bottom, 1},
 }};
 // clang-format on
