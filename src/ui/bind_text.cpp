@@ -2,6 +2,7 @@
 
 #include "controls/text_box.h"
 #include "ui/bind_look.h"
+#include "ui/cell_colors.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -113,8 +114,17 @@ void bind(QLabel &view, Label &label)
     bindLook(view, label);
     view.setTextFormat(Qt::PlainText);
     const auto show = [&view, &label] { view.setText(label.caption()); };
+    const auto paint = [&view, &label] {
+        QPalette palette;
+        if (!label.foreColor().isDesktop()) {
+            palette.setColor(QPalette::WindowText, textColor(label.foreColor().rgb(), palette));
+        }
+        view.setPalette(palette);
+    };
     QObject::connect(&label, &Label::captionChanged, &view, show);
+    QObject::connect(&label, &Control::lookChanged, &view, paint);
     show();
+    paint();
 }
 
 } // namespace kavro

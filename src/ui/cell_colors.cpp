@@ -20,6 +20,10 @@ double luminance(const QColor &color)
            + 0.0722 * linear(color.blueF());
 }
 
+/// Text on a background can be read from this contrast on.
+constexpr double readable = 4.5;
+constexpr double step = 0.05;
+
 } // namespace
 
 QColor mix(const QColor &first, const QColor &second, double share)
@@ -40,8 +44,6 @@ double contrast(const QColor &first, const QColor &second)
 CellColors cellColors(QRgb color, const QPalette &palette)
 {
     constexpr double strongest = 0.45;
-    constexpr double step = 0.05;
-    constexpr double readable = 4.5;
     const QColor base = palette.color(QPalette::Base);
     const QColor own = palette.color(QPalette::Text);
     const QColor other = luminance(own) > 0.5 ? QColor(Qt::black) : QColor(Qt::white);
@@ -55,6 +57,19 @@ CellColors cellColors(QRgb color, const QPalette &palette)
         }
     }
     return colors;
+}
+
+QColor textColor(QRgb color, const QPalette &palette)
+{
+    const QColor background = palette.color(QPalette::Window);
+    const QColor own = palette.color(QPalette::WindowText);
+    for (double share = 1; share > 0; share -= step) {
+        const QColor mixed = mix(QColor(color), own, share);
+        if (contrast(mixed, background) >= readable) {
+            return mixed;
+        }
+    }
+    return own;
 }
 
 } // namespace kavro

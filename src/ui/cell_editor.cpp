@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPainter>
 
 namespace kavro {
 
@@ -19,7 +20,7 @@ CellEditor::CellEditor(GridView &view, TextBox &box, const QString &label)
     bindTyping(*this, box);
     setFrame(false);
     setAutoFillBackground(true);
-    setTextMargins(2, 0, 2, 0);
+    setTextMargins(3, 0, 3, 0); // stands where the cell's own text does
     connect(&box.form(), &Form::focusChanged, this,
             [this](Control *control) { followFocus(control == &m_box); });
     connect(&view, &GridView::currentCellMoved, this, &CellEditor::place);
@@ -88,6 +89,14 @@ void CellEditor::keyPressEvent(QKeyEvent *event)
     case Qt::Key_PageDown: stepRow(event); break;
     default: QLineEdit::keyPressEvent(event);
     }
+}
+
+void CellEditor::paintEvent(QPaintEvent *event)
+{
+    QLineEdit::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Active, QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void CellEditor::focusOutEvent(QFocusEvent *event)

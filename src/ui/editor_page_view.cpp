@@ -12,7 +12,29 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace kavro {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The program's own widths, 15 twips to a pixel, or more where the desktop's font needs it. Few
+/// lines have a third text, so the first two get more of the room.
+QList<int> columnWidths(const QFontMetrics &metrics)
+{
+    const int time = metrics.horizontalAdvance(u"-00:00:00,000"_s) + metrics.averageCharWidth() * 2;
+    const int number = metrics.horizontalAdvance(u" { 9999 }"_s) + metrics.averageCharWidth() * 2;
+    return {std::max(800 / 15, number),
+            std::max(1200 / 15, time),
+            std::max(1200 / 15, time),
+            240,
+            240,
+            160};
+}
+
+} // namespace
 
 EditorPageView::EditorPageView(SubtitleDocument &document, QWidget *parent)
     : QWidget(parent), m_document(document)
@@ -26,6 +48,7 @@ EditorPageView::EditorPageView(SubtitleDocument &document, QWidget *parent)
     auto *basic = new BasicEditView(document.editor, this);
     m_cellEditor->setCompanion(basic);
     layout->addWidget(basic);
+    setFocusProxy(m_grid);
 }
 
 void EditorPageView::finishEdit()
@@ -65,8 +88,7 @@ QWidget *EditorPageView::makeGrid()
     EditorPage &editor = m_document.editor;
     const auto finding = [this](int row) { return m_document.rowErrorText(row); };
     m_grid = new GridView(editor.grdSubEdit, tr("Subtitles"), finding, this);
-    // The program's own widths, 15 twips to a pixel.
-    m_grid->setColumnWidths({800 / 15, 1350 / 15, 1350 / 15, 200, 200, 200}, FirstTextColumn);
+    m_grid->setColumnWidths(columnWidths(m_grid->fontMetrics()), FirstTextColumn);
     m_grid->setHint(tr("Open a subtitle file with Ctrl+O, or drop one here."));
     m_cellEditor = new CellEditor(*m_grid, editor.rtfEdit, tr("Current cell"));
     new FindingPanel(*m_grid, editor.errExp, editor.lblErrExp);

@@ -6,10 +6,34 @@
 #include <QDir>
 #include <QGridLayout>
 #include <QLabel>
+#include <QStandardPaths>
+#include <QUrl>
 
 namespace kavro {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The folders that stand at the side: the person's own, and the one the window begins in.
+QList<QUrl> usualPlaces(const QString &folder)
+{
+    QList<QUrl> places;
+    for (const auto place : {QStandardPaths::HomeLocation, QStandardPaths::DocumentsLocation,
+                             QStandardPaths::MoviesLocation, QStandardPaths::DownloadLocation})
+    {
+        const QString path = QStandardPaths::writableLocation(place);
+        if (QDir(path).exists() && !places.contains(QUrl::fromLocalFile(path))) {
+            places.append(QUrl::fromLocalFile(path));
+        }
+    }
+    if (!places.contains(QUrl::fromLocalFile(folder))) {
+        places.append(QUrl::fromLocalFile(folder));
+    }
+    return places;
+}
+
+} // namespace
 
 QString nameFilter(const QString &filter)
 {
@@ -33,6 +57,8 @@ FileDialog::FileDialog(const FileRequest &request, QWidget *parent)
     if (!request.name.isEmpty()) {
         selectFile(request.name);
     }
+    setSidebarUrls(usualPlaces(request.folder));
+    resize(820, 520);
     if (request.offersMediaName || request.firstOtherFilter > 0) {
         // What stands in the window beyond a name needs a window of Qt's own.
         setOption(DontUseNativeDialog);
@@ -102,6 +128,7 @@ FileReply FileDialogs::show(const FileRequest &request)
     if (formatNeeded && !isFormat && documentFormat) {
         wanted.filterIndex = documentFormat();
     }
+    wanted.offersMediaName = request.offersMediaName && hasMovie && hasMovie();
     FileDialog dialog(wanted, windowParent());
     dialog.exec();
     return dialog.reply();

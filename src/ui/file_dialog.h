@@ -46,6 +46,8 @@ public:
     /// The document's format, 0 for none: a save begins with it where the entry that stands is no
     /// format.
     std::function<int()> documentFormat;
+    /// True while a movie is loaded, whose name a save may take; without one it isn't offered.
+    std::function<bool()> hasMovie;
 };
 
 } // namespace kavro

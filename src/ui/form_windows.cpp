@@ -3,7 +3,6 @@
 #include "controls/form.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -19,7 +18,7 @@ constexpr int lateMs = 200;
 
 void FormWindows::add(Form &form, MakeWindow make, bool late)
 {
-    m_entries.insert(&form, {.make = std::move(make), .late = late, .window = nullptr});
+    m_entries.insert(&form, {.make = std::move(make), .late = late, .window = {}});
     connect(&form, &Form::openChanged, this, [this, &form](bool open) { follow(form, open); });
     if (form.isOpen()) {
         follow(form, true);
@@ -29,6 +28,13 @@ void FormWindows::add(Form &form, MakeWindow make, bool late)
 QDialog *FormWindows::window(const Form &form) const
 {
     return m_entries.value(&form).window;
+}
+
+void FormWindows::clear()
+{
+    for (Entry &entry : m_entries) {
+        delete entry.window;
+    }
 }
 
 void FormWindows::runModal(Form &form)

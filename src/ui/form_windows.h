@@ -2,13 +2,12 @@
 
 #include "core/ports.h"
 
+#include <QDialog>
 #include <QHash>
 #include <QObject>
+#include <QPointer>
 
 #include <functional>
-
-class QDialog;
-class QWidget;
 
 namespace kavro {
 
@@ -20,11 +19,16 @@ class FormWindows : public QObject, public FormRunner
 public:
     using MakeWindow = std::function<QDialog *(QWidget *parent)>;
 
+    ~FormWindows() override { clear(); }
+
     /// From now on the form's window opens and closes with the form. A window that opens `late`
     /// isn't shown for a form that is closed again at once, and never over a question.
     void add(Form &form, MakeWindow make, bool late = false);
 
     void runModal(Form &form) override;
+
+    /// Deletes the windows.
+    void clear();
 
     /// The window of a form, nullptr before it was opened.
     [[nodiscard]] QDialog *window(const Form &form) const;
@@ -37,7 +41,7 @@ private:
     {
         MakeWindow make;
         bool late = false;
-        QDialog *window = nullptr;
+        QPointer<QDialog> window; ///< the window that it stands before may take it along
     };
 
     void follow(Form &form, bool open);

@@ -20,7 +20,11 @@ struct Look
 
 Look lookOf(const QStyleOptionViewItem &option, const QModelIndex &index)
 {
-    const QPalette &palette = option.palette;
+    QPalette palette = option.palette;
+    // The fixed column can't be stepped into, but it reads like the others.
+    palette.setCurrentColorGroup(option.widget != nullptr && option.widget->isEnabled()
+                                     ? QPalette::Active
+                                     : QPalette::Disabled);
     const bool fixed = index.column() == 0;
     const bool chosen = option.state.testFlag(QStyle::State_Selected);
     Look look{.background = palette.color(fixed ? QPalette::Window : QPalette::Base),
@@ -45,7 +49,8 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     const Look look = lookOf(option, index);
     painter->fillRect(option.rect, look.background);
 
-    const QString text = index.data(Qt::DisplayRole).toString();
+    // The blank at the head of a text is the document's, not the picture's.
+    const QString text = index.data(Qt::DisplayRole).toString().trimmed();
     const auto alignment = static_cast<Qt::Alignment>(index.data(Qt::TextAlignmentRole).toInt());
     const QRect place = option.rect.adjusted(textMargin, 0, -textMargin, 0);
     // A line of Hebrew or Arabic begins at the right.
@@ -60,7 +65,7 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     const auto *view = qobject_cast<const QAbstractItemView *>(option.widget);
     if (view != nullptr && view->currentIndex() == index) {
         const bool active = view->hasFocus() || view->viewport()->hasFocus();
-        const QColor frame = option.palette.color(QPalette::Highlight);
+        const QColor frame = option.palette.color(QPalette::Active, QPalette::Highlight);
         painter->setPen(active ? QPen(frame, 2) : QPen(mix(frame, look.background, 0.6), 1));
         painter->setBrush(Qt::NoBrush);
         painter->drawRect(option.rect.adjusted(1, 1, -1, -1));

@@ -1,4 +1,3 @@
-#include "app/program.h"
 #include "app/version.h"
 #include "ui/main_window.h"
 #include "ui/shell.h"
@@ -60,11 +59,9 @@ int main(int argc, char *argv[])
                            kavro::FolderSources::ofMachine(parser.value(u"app-dir"_s),
                                                            QCoreApplication::applicationFilePath()),
                            kavro::FolderUse::Own);
-    kavro::Shell shell;
-    kavro::Program program(shell.ports(), store, folders);
-    shell.attach(program);
-    program.start(parser.positionalArguments().value(0));
-    if (program.hasEnded()) {
+    kavro::Shell shell(store, folders);
+    shell.program().start(parser.positionalArguments().value(0));
+    if (shell.program().hasEnded()) {
         return 0;
     }
     if (qEnvironmentVariableIntValue("KAVRO_TRACE_START") == 1 && shell.mainWindow() != nullptr) {

@@ -6,6 +6,7 @@
 #include "ui/bind_look.h"
 #include "ui/mnemonics.h"
 
+#include <QActionGroup>
 #include <QMenu>
 
 #include <utility>
@@ -85,9 +86,11 @@ void MainMenuView::makeEncodings(QAction &entry)
     entry.setMenu(menu);
     connect(menu, &QMenu::aboutToShow, menu, [this, menu] {
         menu->clear();
+        auto *choice = new QActionGroup(menu->menuAction());
         for (int i = 0; i < m_encodings.count(); ++i) {
             QAction *encoding = menu->addAction(withoutMnemonic(m_encodings.item(i)));
             encoding->setCheckable(true);
+            encoding->setActionGroup(choice);
             encoding->setChecked(i == m_encodings.selected());
             // The menu is left before the file is read, since a question may come.
             connect(

@@ -24,6 +24,7 @@
 #include <QTimer>
 
 #include <cmath>
+#include <utility>
 
 namespace kavro {
 
@@ -31,7 +32,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int editorTab = 2;
 constexpr int leftPanelWidth = 230;
 
 int toPixels(double twips)
@@ -72,12 +72,20 @@ void MainWindow::makePages()
     m_splitter->setChildrenCollapsible(false);
     m_splitter->addWidget(new LeftPanel(m_program.navigation, m_help, m_splitter));
     m_tabs = new PageTabs(m_program.navigation.tabMain, tr("Pages"), m_splitter);
-    m_tabs->addPage(editorTab,
-                    [this](QWidget *page) { return new EditorPageView(m_program.document, page); });
+    addPage(EditorTab,
+            [this](QWidget *page) { return new EditorPageView(m_program.document, page); });
     m_splitter->addWidget(m_tabs);
     m_splitter->setStretchFactor(0, 0);
     m_splitter->setStretchFactor(1, 1);
     setCentralWidget(m_splitter);
+}
+
+void MainWindow::addPage(int number, PageTabs::MakePage make)
+{
+    m_tabs->addPage(number, std::move(make));
+    auto *key = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + number)), this);
+    TabStrip &tabMain = m_program.navigation.tabMain;
+    connect(key, &QShortcut::activated, &tabMain, [&tabMain, number] { tabMain.pick(number); });
 }
 
 void MainWindow::connectProgram()
@@ -129,7 +137,7 @@ void MainWindow::finishEdit()
 
 EditorPageView *MainWindow::editorPage() const
 {
-    return qobject_cast<EditorPageView *>(m_tabs->page(editorTab));
+    return qobject_cast<EditorPageView *>(m_tabs->page(EditorTab));
 }
 
 void MainWindow::showTitle()

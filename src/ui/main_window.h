@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/page_tabs.h"
+
 #include <QMainWindow>
 
 class QSplitter;
@@ -8,7 +10,6 @@ namespace kavro {
 
 class EditorPageView;
 class HelpPages;
-class PageTabs;
 class Program;
 
 /// The main window, `frmMain`: menus, the left panel, the pages, the foot. It opens and closes with
@@ -35,6 +36,8 @@ protected:
 
 private:
     void makePages();
+    /// A page of `tabMain`, reached by Ctrl and its number from 1.
+    void addPage(int number, PageTabs::MakePage make);
     void connectProgram();
     void showTitle();
     void showPageHelp();

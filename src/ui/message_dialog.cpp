@@ -74,7 +74,18 @@ MessageDialog::MessageDialog(const Message &message, Form &frmMessageBox, QWidge
     auto *top = new QHBoxLayout;
     top->setSpacing(14);
     top->addWidget(icon, 0, Qt::AlignTop);
-    top->addWidget(makeText(), 1);
+    auto *words = new QVBoxLayout;
+    words->setSpacing(8);
+    auto *title = new QLabel(message.title, this);
+    title->setObjectName(u"Label4"_s);
+    title->setTextFormat(Qt::PlainText);
+    QFont bold = title->font();
+    bold.setBold(true);
+    title->setFont(bold);
+    title->setVisible(!message.title.isEmpty());
+    words->addWidget(title);
+    words->addWidget(makeText());
+    top->addLayout(words, 1);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 14);

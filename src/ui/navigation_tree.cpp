@@ -3,10 +3,29 @@
 #include "ui/bind_look.h"
 
 #include <QKeyEvent>
+#include <QStyledItemDelegate>
 
 #include <utility>
 
 namespace kavro {
+
+namespace {
+
+/// Gives the lines of a tree some air.
+class AiryLines : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option,
+                                 const QModelIndex &index) const override
+    {
+        constexpr int air = 6;
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, air);
+    }
+};
+
+} // namespace
 
 NavigationTree::NavigationTree(TreeView &tree, TreeModel::IsShown isShown, const QString &label,
                                QWidget *parent)
@@ -18,6 +37,7 @@ NavigationTree::NavigationTree(TreeView &tree, TreeModel::IsShown isShown, const
     setEditTriggers(NoEditTriggers);
     setUniformRowHeights(true);
     setTextElideMode(Qt::ElideMiddle); // a path is told by both its ends
+    setItemDelegate(new AiryLines(this));
     setModel(&m_model);
     expandToDepth(0);
     connect(this, &QTreeView::clicked, this, &NavigationTree::act);

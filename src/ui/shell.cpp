@@ -1,6 +1,5 @@
 #include "ui/shell.h"
 
-#include "app/program.h"
 #include "ui/control_window_view.h"
 #include "ui/help_window_view.h"
 #include "ui/main_window.h"
@@ -9,27 +8,35 @@
 
 namespace kavro {
 
-Shell::Shell() = default;
-Shell::~Shell() = default;
-
-Ports Shell::ports()
+Shell::Shell(FileStore &store, Folders &folders)
+    : m_program({.messages = m_messages,
+                 .files = m_files,
+                 .forms = m_forms,
+                 .help = m_help,
+                 .player = m_player,
+                 .sound = m_sound,
+                 .printer = m_printer,
+                 .screen = m_screen,
+                 .clock = m_clock,
+                 .random = m_random},
+                store, folders)
 {
-    return {.messages = m_messages,
-            .files = m_files,
-            .forms = m_forms,
-            .help = m_help,
-            .player = m_player,
-            .sound = m_sound,
-            .printer = m_printer,
-            .screen = m_screen,
-            .clock = m_clock,
-            .random = m_random};
+    m_messages.form = &m_program.frmMessageBox;
+    m_files.documentFormat = [this] { return m_program.document.curFormatId; };
+    m_files.hasMovie = [this] { return !m_player.fileName().isEmpty(); };
+    addWindows();
 }
 
-void Shell::attach(Program &program)
+// The windows show the program and go before it.
+Shell::~Shell()
 {
-    m_messages.form = &program.frmMessageBox;
-    m_files.documentFormat = [&program] { return program.document.curFormatId; };
+    m_mainWindow.reset();
+    m_forms.clear();
+}
+
+void Shell::addWindows()
+{
+    Program &program = m_program;
     m_forms.add(program.frmSplash, [&program](QWidget *parent) {
         return new SplashView(program.frmSplash, program.splash, parent);
     });
@@ -46,16 +53,16 @@ void Shell::attach(Program &program)
         },
         true);
     // Made when it opens: by then everything that it shows is there.
-    QObject::connect(&program.frmMain, &Form::openChanged, &m_forms, [this, &program](bool open) {
+    QObject::connect(&program.frmMain, &Form::openChanged, &m_forms, [this](bool open) {
         if (open && !m_mainWindow) {
-            openMainWindow(program);
+            openMainWindow();
         }
     });
 }
 
-void Shell::openMainWindow(Program &program)
+void Shell::openMainWindow()
 {
-    m_mainWindow = std::make_unique<MainWindow>(program, m_help);
+    m_mainWindow = std::make_unique<MainWindow>(m_program, m_help);
     m_forms.parent = m_mainWindow.get();
     m_mainWindow->open();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/program.h"
 #include "ui/file_dialog.h"
 #include "ui/form_windows.h"
 #include "ui/help_browser.h"
@@ -12,26 +13,24 @@
 namespace kavro {
 
 class MainWindow;
-class Program;
 
-/// The window's side of a program: fills its doors and opens its windows.
+/// A program with its windows: the doors are filled by dialogs, and each form has its window.
 class Shell
 {
 public:
-    Shell();
+    /// Both are borrowed and outlive this. Nothing opens before the program is started.
+    Shell(FileStore &store, Folders &folders);
     ~Shell();
     Shell(const Shell &) = delete;
     Shell &operator=(const Shell &) = delete;
 
-    [[nodiscard]] Ports ports();
-    /// Connects the windows with the program, which was made over `ports` and outlives this. Comes
-    /// ahead of the program's start.
-    void attach(Program &program);
+    [[nodiscard]] Program &program() { return m_program; }
     /// nullptr until the program has opened it.
     [[nodiscard]] MainWindow *mainWindow() const { return m_mainWindow.get(); }
 
 private:
-    void openMainWindow(Program &program);
+    void addWindows();
+    void openMainWindow();
 
     MessageDialogs m_messages;
     FileDialogs m_files;
@@ -43,6 +42,7 @@ private:
     DesktopScreen m_screen;
     SystemClock m_clock;
     SystemRandom m_random;
+    Program m_program;
     std::unique_ptr<MainWindow> m_mainWindow;
 };
 

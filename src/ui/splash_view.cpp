@@ -3,9 +3,9 @@
 #include "app/splash_window.h"
 #include "ui/bind_indicators.h"
 #include "ui/bind_text.h"
-#include "ui/cell_colors.h"
 
 #include <QApplication>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -27,6 +27,9 @@ SplashView::SplashView(Form &frmSplash, SplashWindow &splash, QWidget *parent)
     auto *about = new QLabel(tr("Editor for film subtitles"), frame);
     auto *build = new QLabel(frame);
     bind(*build, splash.lblBuild);
+    auto *buildRow = new QHBoxLayout;
+    buildRow->addWidget(new QLabel(tr("Build"), frame));
+    buildRow->addWidget(build, 1);
     auto *progress = new QLabel(frame);
     bind(*progress, splash.Label1);
     for (QLabel *label : {title, about, build, progress}) {
@@ -37,7 +40,7 @@ SplashView::SplashView(Form &frmSplash, SplashWindow &splash, QWidget *parent)
     inner->setContentsMargins(36, 30, 36, 20);
     inner->addWidget(title);
     inner->addWidget(about);
-    inner->addWidget(build);
+    inner->addLayout(buildRow);
     inner->addStretch();
     inner->addWidget(progress);
     auto *layout = new QVBoxLayout(this);

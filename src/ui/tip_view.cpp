@@ -1,6 +1,7 @@
 #include "ui/tip_view.h"
 
 #include "app/tip_window.h"
+#include "controls/form.h"
 #include "ui/bind_buttons.h"
 #include "ui/bind_text.h"
 
@@ -18,6 +19,10 @@ TipView::TipView(Form &frmTip, TipWindow &tips, QWidget *parent) : FormDialog(fr
     icon->setPixmap(style()
                         ->standardIcon(QStyle::SP_MessageBoxInformation)
                         .pixmap(style()->pixelMetric(QStyle::PM_LargeIconSize)));
+    auto *title = new QLabel(frmTip.caption(), this);
+    QFont bold = title->font();
+    bold.setBold(true);
+    title->setFont(bold);
     auto *text = new QLabel(this);
     bind(*text, tips.lblTipText);
     text->setWordWrap(true);
@@ -34,7 +39,11 @@ TipView::TipView(Form &frmTip, TipWindow &tips, QWidget *parent) : FormDialog(fr
     auto *top = new QHBoxLayout;
     top->setSpacing(14);
     top->addWidget(icon, 0, Qt::AlignTop);
-    top->addWidget(text, 1);
+    auto *words = new QVBoxLayout;
+    words->setSpacing(8);
+    words->addWidget(title);
+    words->addWidget(text, 1);
+    top->addLayout(words, 1);
     auto *foot = new QHBoxLayout;
     foot->addWidget(atStart, 1);
     foot->addWidget(next);
@@ -45,7 +54,7 @@ TipView::TipView(Form &frmTip, TipWindow &tips, QWidget *parent) : FormDialog(fr
     layout->addLayout(top, 1);
     layout->addLayout(foot);
     ok->setFocus();
-    resize(480, 220);
+    resize(480, 200);
 }
 
 } // namespace kavro

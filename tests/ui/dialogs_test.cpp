@@ -252,7 +252,6 @@ TEST_F(Windows, OpenAndCloseWithTheirForm)
     });
     windows.runModal(run->frmTip);
     EXPECT_FALSE(dialog->isVisible());
-    delete dialog;
 }
 
 TEST_F(Windows, ReportOfAShortLoadDoesNotFlash)
@@ -278,7 +277,6 @@ TEST_F(Windows, ReportOfAShortLoadDoesNotFlash)
     EXPECT_TRUE(dialog->findChild<QPlainTextEdit *>()->toPlainText().contains(u"12 subtitles"_s));
     run->control_window.cmdOk.click();
     EXPECT_FALSE(dialog->isVisible());
-    delete dialog;
 }
 
 TEST_F(Windows, SplashEndsByKeyAndClickButNotByADrag)

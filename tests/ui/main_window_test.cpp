@@ -194,6 +194,17 @@ TEST_F(Window, TreeShowsWhatLeadsSomewhereAndActs)
     EXPECT_EQ(run.doors.files.shown.size(), 1);
 }
 
+TEST_F(Window, NumberKeysBringThePagesThatExist)
+{
+    openFilm();
+    QTest::keyClick(window.get(), Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(run->trace.lastActionCode, 5) << "as a click on the tab";
+    run->trace.RecordAction({}, 0);
+    QTest::keyClick(window.get(), Qt::Key_4, Qt::ControlModifier);
+    EXPECT_EQ(run->trace.lastActionCode, 0);
+    EXPECT_EQ(run->navigation.tabMain.tab(), EditorTab);
+}
+
 TEST_F(Window, HelpKeyOpensThePagesHelp)
 {
     openFilm();
