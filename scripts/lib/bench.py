@@ -15,6 +15,7 @@ BUILD = "build/release"
 CLI = f"{BUILD}/kavro-cli"
 BARE = f"{BUILD}/bare_convert"
 WINDOW = f"{BUILD}/kavro"
+PAINT = f"{BUILD}/window_paint"
 RUNS = 30
 WINDOW_RUNS = 10
 LINES = 9999
@@ -155,6 +156,14 @@ def resident(pid):
         return next(int(line.split()[1]) for line in file if line.startswith("VmRSS")) / 1024
 
 
+def painted(film, env):
+    """How long the window takes to paint a key, as the program for it prints."""
+    if not os.path.exists(PAINT):
+        return []
+    out = subprocess.run([PAINT, film], check=True, env=env, stdout=subprocess.PIPE).stdout.decode()
+    return [Row(name, float(ms), "ms") for name, ms in (line.split() for line in out.splitlines())]
+
+
 def window(folder):
     """From the start of the window with a film to the settled picture, and its memory then."""
     if not os.path.exists(WINDOW):
@@ -182,11 +191,12 @@ def window(folder):
             if run > 0:
                 times.append(took * 1e3)
                 sizes.append(size)
+        paints = painted(film, env)
     finally:
         server.terminate()
         server.wait()
     return [Row("window_settled", statistics.median(times), "ms"),
-            Row("window_memory", statistics.median(sizes), "MiB")]
+            Row("window_memory", statistics.median(sizes), "MiB"), *paints]
 
 
 def read_goals():
