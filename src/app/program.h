@@ -58,7 +58,9 @@ public:
     void start(const QString &file);
     /// The same without splash, settings of a person, tips, recent or last files: defaults stand,
     /// `frmMain` is open, and nothing is written at the end.
-    void startForVerb();
+    ///
+    /// @param captions  false leaves the controls without captions and tool tips: nobody sees them
+    void startForVerb(bool captions = true);
 
     /// The exit command: asks about unsaved changes, writes the stored files, tidies. True when the
     /// program ended; its question comes back until the save succeeds or the answer is no.

@@ -60,10 +60,12 @@ void Program::start(const QString &file)
     }
 }
 
-void Program::startForVerb()
+void Program::startForVerb(bool captions)
 {
     m_forVerb = true;
-    languagePack.setDesignCaptions();
+    if (captions) {
+        languagePack.setDesignCaptions();
+    }
     fillTexts();
     fillFonts();
     showFirstTabs();

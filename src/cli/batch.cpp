@@ -48,7 +48,7 @@ bool Batch::prepare()
 std::unique_ptr<Program> Batch::newProgram(const LoadOptions &options)
 {
     auto program = std::make_unique<Program>(ports.ports(), disk.store, disk.folders);
-    program->startForVerb();
+    program->startForVerb(false);
     if (options.frameRate)
         program->frameRates.optFrameRate[*options.frameRate].setOn();
     return program;
