@@ -10,6 +10,8 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 
+#include <limits>
+
 namespace kavro {
 
 namespace {
@@ -40,12 +42,38 @@ private:
     TextBox &m_box;
 };
 
-void showText(QLineEdit &edit, const QString &text)
+/// Shows a control's text in its field; a field that is hidden gets it when it is shown.
+class ShownText : public QObject
 {
-    if (edit.text() != text) {
-        edit.setText(text);
+public:
+    ShownText(QLineEdit &edit, TextBox &box) : QObject(&edit), m_edit(edit), m_box(box)
+    {
+        // A cell can be longer than Qt's own limit, and what is cut here would be written so.
+        edit.setMaxLength(std::numeric_limits<int>::max());
+        edit.installEventFilter(this);
+        connect(&box, &TextBox::textChanged, this, &ShownText::follow);
+        follow();
     }
-}
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::ShowToParent) {
+            follow();
+        }
+        return false;
+    }
+
+private:
+    void follow()
+    {
+        if (!m_edit.isHidden() && m_edit.text() != m_box.text()) {
+            m_edit.setText(m_box.text());
+        }
+    }
+
+    QLineEdit &m_edit;
+    TextBox &m_box;
+};
 
 } // namespace
 
@@ -58,11 +86,9 @@ void bind(QLineEdit &edit, TextBox &box, const QString &label)
 
 void bindTyping(QLineEdit &edit, TextBox &box)
 {
-    showText(edit, box.text());
+    new ShownText(edit, box);
     QObject::connect(&edit, &QLineEdit::textEdited, &box,
                      [&box](const QString &text) { box.type(text); });
-    QObject::connect(&box, &TextBox::textChanged, &edit,
-                     [&edit](const QString &text) { showText(edit, text); });
     QObject::connect(&box, &TextBox::selectionChanged, &edit, [&edit, &box] {
         const bool same = edit.selectionStart() == static_cast<int>(box.selStart())
                           && edit.selectionLength() == static_cast<int>(box.selLength());
@@ -96,7 +122,6 @@ void bindPreview(QLabel &label, TextBox &box, const QString &name)
 {
     bindLookInPlace(label, box, name);
     label.setTextFormat(Qt::PlainText);
-    label.setTextInteractionFlags(Qt::TextSelectableByMouse);
     const auto show = [&label, &box] {
         QFont font = label.font();
         font.setBold(box.isBold());

@@ -127,8 +127,8 @@ void CellEditor::place()
 void CellEditor::followFocus(bool mine)
 {
     if (mine) {
-        m_before = text();
         show();
+        m_before = text();
         place();
         raise();
         setFocus();

@@ -5,6 +5,7 @@
 #include "ui/basic_edit_view.h"
 #include "ui/bind_text.h"
 #include "ui/cell_editor.h"
+#include "ui/elided_label.h"
 #include "ui/finding_panel.h"
 #include "ui/grid_view.h"
 
@@ -68,7 +69,7 @@ QWidget *EditorPageView::makePreview()
     layout->setVerticalSpacing(0);
     layout->setColumnStretch(1, 1);
     for (int line = 0; line < 3; ++line) {
-        auto *text = new QLabel(frame);
+        auto *text = new ElidedLabel(Qt::ElideRight, frame);
         QFont font = text->font();
         font.setPointSizeF(font.pointSizeF() * 1.25);
         text->setFont(font);

@@ -1,6 +1,7 @@
 #include "ui/grid_delegate.h"
 
 #include "ui/cell_colors.h"
+#include "ui/elided_label.h"
 #include "ui/grid_model.h"
 
 #include <QAbstractItemView>
@@ -50,7 +51,7 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     painter->fillRect(option.rect, look.background);
 
     // The blank at the head of a text is the document's, not the picture's.
-    const QString text = index.data(Qt::DisplayRole).toString().trimmed();
+    const QString text = withoutMiddle(index.data(Qt::DisplayRole).toString()).trimmed();
     const auto alignment = static_cast<Qt::Alignment>(index.data(Qt::TextAlignmentRole).toInt());
     const QRect place = option.rect.adjusted(textMargin, 0, -textMargin, 0);
     // A line of Hebrew or Arabic begins at the right.

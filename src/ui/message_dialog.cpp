@@ -3,6 +3,8 @@
 #include "controls/form.h"
 #include "controls/text_box.h"
 #include "ui/bind_look.h"
+#include "ui/elided_label.h"
+#include "ui/mnemonics.h"
 #include "ui/window_parent.h"
 
 #include <QApplication>
@@ -26,6 +28,7 @@ namespace {
 
 constexpr int textWidth = 440;
 constexpr int mostTextLines = 18;
+constexpr int longestLine = 600;
 
 /// From the left as the program has them: Cancel is the last at the right.
 constexpr Answer buttonOrder[] = {Answer::Yes, Answer::No, Answer::Ok, Answer::Cancel};
@@ -112,17 +115,19 @@ QWidget *MessageDialog::makeText()
     text->viewport()->setAutoFillBackground(false);
     text->setFocusPolicy(Qt::ClickFocus);
     text->document()->setDocumentMargin(0);
-    text->setPlainText(m_message.text);
+    QStringList lines = m_message.text.split(u'\n');
+    std::ranges::transform(lines, lines.begin(),
+                           [](const QString &line) { return withoutMiddle(line, longestLine); });
+    text->setPlainText(lines.join(u'\n'));
     text->setFixedWidth(textWidth);
     const QFontMetrics metrics = text->fontMetrics();
-    int lines = 0;
-    for (const QString &line : m_message.text.split(u'\n')) {
-        const int wrapped = metrics.horizontalAdvance(line.left(10000)) / (textWidth - 40) + 1;
-        lines += wrapped;
+    int height = 0;
+    for (const QString &line : lines) {
+        height += metrics.horizontalAdvance(line) / (textWidth - 40) + 1;
     }
-    text->setFixedHeight(std::min(lines, mostTextLines) * metrics.lineSpacing() + 2);
-    text->setVerticalScrollBarPolicy(lines > mostTextLines ? Qt::ScrollBarAsNeeded
-                                                           : Qt::ScrollBarAlwaysOff);
+    text->setFixedHeight(std::min(height, mostTextLines) * metrics.lineSpacing() + 2);
+    text->setVerticalScrollBarPolicy(height > mostTextLines ? Qt::ScrollBarAsNeeded
+                                                            : Qt::ScrollBarAlwaysOff);
     return text;
 }
 
@@ -145,6 +150,7 @@ QLayout *MessageDialog::makeFields()
 
 QLayout *MessageDialog::makeButtons()
 {
+    Mnemonics mnemonics;
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
     for (const Answer given : buttonOrder) {
@@ -153,9 +159,10 @@ QLayout *MessageDialog::makeButtons()
         }
         const int index = static_cast<int>(given);
         auto *button = new QPushButton(this);
-        button->setText(captionOf(m_form, u"cmdAction", index, plainCaption(given)));
+        const QString caption = captionOf(m_form, u"cmdAction", index, plainCaption(given));
+        button->setText(mnemonics.mark(caption));
         button->setObjectName(u"cmdAction(%1)"_s.arg(index));
-        button->setAccessibleName(button->text());
+        button->setAccessibleName(caption);
         button->setAutoDefault(true);
         button->setMinimumWidth(84);
         connect(button, &QPushButton::clicked, this, [this, given] { press(given); });

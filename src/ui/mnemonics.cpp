@@ -1,7 +1,6 @@
 #include "ui/mnemonics.h"
 
 #include <QAction>
-#include <QSet>
 
 namespace kavro {
 
@@ -22,14 +21,31 @@ QString plainText(const QString &text)
     return plain;
 }
 
-qsizetype firstFreeLetter(const QString &text, const QSet<QChar> &taken)
+} // namespace
+
+QString Mnemonics::mark(const QString &caption)
 {
-    // The heads of words come first, being what a person looks for.
+    const qsizetype letter = freeLetter(caption);
+    if (letter >= 0) {
+        m_taken.insert(caption[letter].toLower());
+    }
+    QString marked;
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+        if (i == letter || caption[i] == u'&') {
+            marked += u'&';
+        }
+        marked += caption[i];
+    }
+    return marked;
+}
+
+qsizetype Mnemonics::freeLetter(const QString &caption) const
+{
     for (const bool anywhere : {false, true}) {
-        for (qsizetype i = 0; i < text.size(); ++i) {
-            const bool head = i == 0 || text[i - 1].isSpace();
-            if ((head || anywhere) && text[i].isLetterOrNumber()
-                && !taken.contains(text[i].toLower())) {
+        for (qsizetype i = 0; i < caption.size(); ++i) {
+            const bool head = i == 0 || caption[i - 1].isSpace();
+            if ((head || anywhere) && caption[i].isLetterOrNumber()
+                && !m_taken.contains(caption[i].toLower())) {
                 return i;
             }
         }
@@ -37,26 +53,13 @@ qsizetype firstFreeLetter(const QString &text, const QSet<QChar> &taken)
     return -1;
 }
 
-} // namespace
-
 void assignMnemonics(const QList<QAction *> &actions)
 {
-    QSet<QChar> taken;
+    Mnemonics mnemonics;
     for (QAction *action : actions) {
-        if (action->isSeparator() || !action->isVisible()) {
-            continue;
+        if (!action->isSeparator() && action->isVisible()) {
+            action->setText(mnemonics.mark(plainText(action->text())));
         }
-        const QString plain = plainText(action->text());
-        const qsizetype letter = firstFreeLetter(plain, taken);
-        QString text;
-        for (qsizetype i = 0; i < plain.size(); ++i) {
-            text += i == letter ? QStringLiteral("&") : QString();
-            text += plain[i] == u'&' ? QStringLiteral("&&") : QString(plain[i]);
-        }
-        if (letter >= 0) {
-            taken.insert(plain[letter].toLower());
-        }
-        action->setText(text);
     }
 }
 

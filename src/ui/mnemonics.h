@@ -1,13 +1,27 @@
 #pragma once
 
 #include <QList>
+#include <QSet>
+#include <QString>
 
 class QAction;
 
 namespace kavro {
 
-/// Gives each entry of a menu a letter of its own to press, the first of its text that is free.
-/// Texts are plain captions; a second call gives the same letters.
+/// Gives each of several captions that stand together a letter of its own to press.
+class Mnemonics
+{
+public:
+    /// A plain caption with "&" ahead of its first letter that is free, heads of words first.
+    QString mark(const QString &caption);
+
+private:
+    [[nodiscard]] qsizetype freeLetter(const QString &caption) const;
+
+    QSet<QChar> m_taken;
+};
+
+/// The same for the entries of a menu; a second call gives the same letters.
 void assignMnemonics(const QList<QAction *> &actions);
 
 } // namespace kavro

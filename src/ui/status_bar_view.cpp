@@ -46,7 +46,7 @@ StatusBarView::StatusBarView(StatusPanels &panels, QWidget *parent) : QStatusBar
 
 QLabel *StatusBarView::makePanel(const QString &name, int stretch)
 {
-    QLabel *label = stretch > 0 ? new ElidedLabel(this) : new QLabel(this);
+    QLabel *label = stretch > 0 ? new ElidedLabel(Qt::ElideMiddle, this) : new QLabel(this);
     label->setTextFormat(Qt::PlainText);
     label->setAccessibleName(name);
     label->setMargin(3);

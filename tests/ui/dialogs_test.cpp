@@ -71,8 +71,8 @@ TEST(MessageDialogs, ButtonsStandInOrderAndTheDefaultIsMarked)
         QStringList texts;
         QString marked;
         for (const QPushButton *button : buttons) {
-            texts.append(button->text());
-            marked += button->isDefault() ? button->text() : QString();
+            texts.append(button->accessibleName());
+            marked += button->isDefault() ? button->accessibleName() : QString();
         }
         EXPECT_EQ(texts, c.buttons);
         EXPECT_EQ(marked, c.marked) << qPrintable(c.kind);
@@ -132,6 +132,21 @@ TEST_F(RealMessages, ButtonAnswers)
     whenOpen([] { QTest::keyClick(topDialog(), Qt::Key_Escape); });
     EXPECT_EQ(ask(u"yesnocancel"_s), Answer::Cancel);
     EXPECT_FALSE(trace.macroRunning);
+}
+
+TEST_F(RealMessages, LettersWithAltPressTheButtons)
+{
+    const QHash<Qt::Key, Answer> answers{
+        {Qt::Key_Y, Answer::Yes}, {Qt::Key_N, Answer::No}, {Qt::Key_C, Answer::Cancel}};
+    for (auto it = answers.cbegin(); it != answers.cend(); ++it) {
+        whenOpen([key = it.key()] {
+            QTest::qWait(1);
+            QTest::keyClick(topDialog(), key);
+            ASSERT_NE(topDialog(), nullptr) << "a letter alone may be meant for a cell";
+            QTest::keyClick(topDialog(), key, Qt::AltModifier);
+        });
+        EXPECT_EQ(ask(u"yesnocancel"_s), it.value());
+    }
 }
 
 TEST_F(RealMessages, MacroCanPressTheButton)

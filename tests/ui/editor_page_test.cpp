@@ -168,6 +168,18 @@ TEST_F(Editor, EditBoxGoesOnWithTheCellsText)
     EXPECT_TRUE(box->hasFocus());
 }
 
+TEST_F(Editor, LongTextIsEditedWhole)
+{
+    const QString before(100000, u'x');
+    run->editor.grdSubEdit.setText(1, 3, before);
+    run->document.RefreshCurrentRow();
+    press(Qt::Key_F2);
+    press(Qt::Key_End);
+    type(u"y"_s);
+    press(Qt::Key_Return);
+    EXPECT_EQ(cell(1, 3).trimmed(), before + u'y');
+}
+
 TEST_F(Editor, TabStaysInTheCellAndEndRowHasNoEdit)
 {
     press(Qt::Key_F2);
