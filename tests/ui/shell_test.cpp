@@ -1,0 +1,114 @@
+#include "ui/shell.h"
+
+#include "tests/support/test_program.h"
+#include "ui/help_window_view.h"
+#include "ui/main_window.h"
+#include "ui/splash_view.h"
+#include "ui/start_trace.h"
+#include "ui/tip_view.h"
+
+#include <QApplication>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBrowser>
+
+#include <gtest/gtest.h>
+
+namespace kavro::test {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+template <class T>
+T *openWindow()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (auto *found = qobject_cast<T *>(window); found != nullptr && found->isVisible()) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+/// The whole program with its own windows, in a folder that is filled from the shipped one.
+class Shells : public ::testing::Test
+{
+protected:
+    QString film()
+    {
+        QFile file(temporary.filePath(u"film.srt"_s));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(twoSubtitles().toUtf8());
+        return file.fileName();
+    }
+
+    QTemporaryDir temporary;
+    FileStore store;
+    Folders folders{store,
+                    {.appDir = temporary.filePath(u"app"_s),
+                     .home = {},
+                     .executableFolder = QStringLiteral(KAVRO_SOURCE_DIR),
+                     .userData = temporary.filePath(u"user"_s),
+                     .temporary = temporary.filePath(u"tmp"_s)},
+                    FolderUse::Own};
+    Shell shell{store, folders};
+};
+
+TEST_F(Shells, FileOnTheCommandLineOpensTheWindowAtOnce)
+{
+    shell.program().start(film());
+    ASSERT_NE(shell.mainWindow(), nullptr);
+    EXPECT_TRUE(shell.mainWindow()->isVisible());
+    EXPECT_EQ(shell.mainWindow()->windowTitle(), u"film.srt[*] - Kavro"_s);
+    EXPECT_EQ(openWindow<SplashView>(), nullptr);
+
+    ::testing::internal::CaptureStderr();
+    new StartTrace(*shell.mainWindow());
+    QTest::qWait(100);
+    const QString line = QString::fromStdString(::testing::internal::GetCapturedStderr());
+    EXPECT_TRUE(QRegularExpression(u"^settled [1-9][0-9]*\n$"_s).match(line).hasMatch())
+        << line.toStdString();
+}
+
+TEST_F(Shells, StartWithoutAFileGoesByTheSplashToTheTips)
+{
+    shell.program().start({});
+    auto *splash = openWindow<SplashView>();
+    ASSERT_NE(splash, nullptr);
+    EXPECT_EQ(shell.mainWindow(), nullptr);
+    QTest::keyClick(splash, Qt::Key_Space);
+    EXPECT_FALSE(splash->isVisible());
+    ASSERT_NE(shell.mainWindow(), nullptr);
+    auto *tips = openWindow<TipView>();
+    ASSERT_NE(tips, nullptr);
+    EXPECT_EQ(tips->parentWidget(), shell.mainWindow());
+}
+
+TEST_F(Shells, HelpCentreShowsItsPage)
+{
+    shell.program().start(film());
+    shell.program().help.show();
+    const auto *window = openWindow<HelpWindowView>();
+    ASSERT_NE(window, nullptr);
+    const auto *page = window->findChild<QTextBrowser *>();
+    EXPECT_TRUE(page->source().path().endsWith(u"helpcenter.htm"_s));
+    EXPECT_GT(page->toPlainText().size(), 100);
+}
+
+TEST(Machine, TellsWhatThereIs)
+{
+    EXPECT_EQ(DesktopScreen().size(), QSize(1280, 800));
+    EXPECT_FALSE(DesktopScreen().fonts().isEmpty());
+    SystemRandom random;
+    for (int i = 0; i < 1000; ++i) {
+        const double number = random.next();
+        EXPECT_TRUE(number >= 0 && number < 1);
+    }
+    NoPlayer player;
+    EXPECT_FALSE(player.open(u"film.avi"_s));
+    EXPECT_FALSE(player.missingText().isEmpty());
+}
+
+} // namespace
+} // namespace kavro::test
