@@ -46,6 +46,7 @@ double paintedAfter(QWidget &widget, int key, const QString &text)
 void report(const char *name, QWidget &widget, int key, const QString &text)
 {
     std::vector<double> times;
+    times.reserve(runs);
     for (int run = 0; run < runs; ++run) {
         times.push_back(paintedAfter(widget, key, text));
     }
