@@ -15,9 +15,7 @@ class TabStrip : public Control
 public:
     TabStrip(Form &form, const QString &name, const QStringList &captions);
     /// So many tabs, whose captions are still to come.
-    TabStrip(Form &form, const QString &name, int tabs)
-        : TabStrip(form, name, QStringList(tabs))
-    {}
+    TabStrip(Form &form, const QString &name, int tabs) : TabStrip(form, name, QStringList(tabs)) {}
 
     [[nodiscard]] int count() const { return static_cast<int>(m_captions.size()); }
     [[nodiscard]] int tab() const { return m_tab; }
