@@ -37,7 +37,7 @@ QColor mix(const QColor &first, const QColor &second, double share)
 
 double contrast(const QColor &first, const QColor &second)
 {
-    const auto [dark, light] = std::minmax(luminance(first), luminance(second));
+    const auto [dark, light] = std::minmax({luminance(first), luminance(second)});
     return (light + 0.05) / (dark + 0.05);
 }
 
