@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QDropEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
