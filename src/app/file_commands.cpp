@@ -333,10 +333,11 @@ void FileCommands::EnableDocumentCommands()
     MainMenu &menu = m_parts.menu;
     for (Control *control : std::initializer_list<Control *>{
              &editor.SSTab2, &editor.SSTab3, &editor.rtfEdit, &editor.cmdInvCalc, &menu.mnuAddFile,
-             &menu.mnuSave, &menu.mnuSavesubfile, &menu.mnuPreview})
+             &menu.mnuSave, &menu.mnuSavesubfile, &menu.mnuPreview, &m_parts.formats.Command39})
     {
         control->setEnabled(true);
     }
+    m_parts.formats.Combo8[1].setAvailable(true);
     menu.mnuPrint.setEnabled(m_parts.ports.printer.isAvailable());
     // A new document has no file to be read again.
     menu.mnuReopen.setEnabled(m_parts.document.savedFormatId != UnknownFormat);
