@@ -1,6 +1,7 @@
 // window_paint FILE: opens the window with FILE and prints how long a person waits for the picture
-// of a step to the next row and of a key typed in a cell, as medians in milliseconds:
-// "window_step_painted <ms>" and "window_key_painted <ms>".
+// of a step to the next row, of a key typed in a cell and of a step back over a shift of all lines,
+// and how long the recovery holds the window up, as medians in milliseconds: "window_step_painted
+// <ms>" and so on.
 
 #include "app/program.h"
 #include "tests/support/scripted_ports.h"
@@ -32,26 +33,59 @@ void settle()
     QGuiApplication::sync();
 }
 
-/// From the key to its picture, in milliseconds.
-double paintedAfter(QWidget &widget, int key, const QString &text)
+template <class Act>
+double millisecondsOf(Act act)
 {
     QElapsedTimer timer;
     timer.start();
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QCoreApplication::sendEvent(&widget, &press);
-    settle();
+    act();
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
-void report(const char *name, QWidget &widget, int key, const QString &text)
+void report(const char *name, std::vector<double> times)
+{
+    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+    std::ranges::nth_element(times, middle);
+    std::printf("%s %.3f\n", name, *middle);
+}
+
+/// From the key to its picture.
+void reportKey(const char *name, QWidget &widget, int key, const QString &text)
 {
     std::vector<double> times;
     times.reserve(runs);
     for (int run = 0; run < runs; ++run) {
-        times.push_back(paintedAfter(widget, key, text));
+        times.push_back(millisecondsOf([&] {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+            QCoreApplication::sendEvent(&widget, &press);
+            settle();
+        }));
     }
-    std::ranges::nth_element(times, times.begin() + runs / 2);
-    std::printf("%s %.3f\n", name, times[runs / 2]);
+    report(name, times);
+}
+
+/// From Ctrl+Z behind a shift of every line to its picture, and what a tick of the recovery takes
+/// from the window's own thread.
+void reportChanges(kavro::Program &program)
+{
+    std::vector<double> undone;
+    std::vector<double> kept;
+    undone.reserve(runs);
+    kept.reserve(runs);
+    program.shift.rtfShiftDuration.setText(u"00:00:01,000"_s);
+    program.shift.Combo2.pick(1);
+    for (int run = 0; run < runs / 10; ++run) {
+        program.shift.Command13.click();
+        settle();
+        kept.push_back(millisecondsOf([&] { program.recovery.timRecovery.fire(); }));
+        program.recovery.finishWriting();
+        undone.push_back(millisecondsOf([&] {
+            program.menu.mnuUndo.click();
+            settle();
+        }));
+    }
+    report("window_undo_painted", undone);
+    report("window_recovery_kept", kept);
 }
 
 } // namespace
@@ -86,10 +120,12 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "%s has too few subtitles\n", qPrintable(file));
         return 2;
     }
-    report("window_step_painted", *grid, Qt::Key_Down, {});
+    reportKey("window_step_painted", *grid, Qt::Key_Down, {});
     grid->setFocus();
     program.editor.grdSubEdit.press(kavro::Key::Enter);
     settle();
-    report("window_key_painted", *cell, Qt::Key_A, u"a"_s);
+    reportKey("window_key_painted", *cell, Qt::Key_A, u"a"_s);
+    window.finishEdit();
+    reportChanges(program);
     return 0;
 }

@@ -15,6 +15,7 @@
 #include "core/main_menu.h"
 #include "core/messages.h"
 #include "core/partition_page.h"
+#include "core/player_page.h"
 #include "core/ports.h"
 #include "core/settings_page.h"
 #include "core/text.h"
@@ -73,7 +74,8 @@ void FileCommands::connectMenu()
     QObject::connect(&lstEncoding, &ListBox::picked, &lstEncoding,
                      [this](int entry) { mnuReopen(entry); });
     for (Button *entry : {&menu.mnuAddFile, &menu.mnuSave, &menu.mnuSavesubfile, &menu.mnuPrint,
-                          &menu.mnuPreview, &menu.mnuReopen})
+                          &menu.mnuPreview, &menu.mnuReopen, &menu.mnuSearch, &menu.mnuReplace,
+                          &menu.mnuSearchAgain, &menu.mnuGotoLine})
     {
         entry->setEnabled(false);
     }
@@ -143,8 +145,10 @@ void FileCommands::loadPath(const QString &path, int format)
 
 void FileCommands::load(LoadRequest &request)
 {
-    const LoadResult result = m_parts.loader.LoadSubFile(request);
-    if (result.kind == LoadResult::Kind::Loaded) {
+    using Kind = LoadResult::Kind;
+    const Kind kind = m_parts.loader.LoadSubFile(request).kind;
+    // A file of too many lines leaves an empty document, of which the tree has to tell too.
+    if (kind == Kind::Loaded || (kind == Kind::LimitReached && request.nextRow == 1)) {
         m_parts.diagnose.diagnoseWithoutRepairs();
     }
 }
@@ -182,6 +186,7 @@ void FileCommands::mnuAddFile()
     if (!window.show({.info = u"Add subtitle file"_s})) {
         return;
     }
+    const SubtitleDocument::Act act(m_parts.document);
     LoadRequest request{.path = window.lblFullName.caption(),
                         .format = window.List3.selected(),
                         .nextRow = document.editor.grdSubEdit.rows() - 1};
@@ -333,9 +338,14 @@ void FileCommands::EnableDocumentCommands()
     MainMenu &menu = m_parts.menu;
     for (Control *control : std::initializer_list<Control *>{
              &editor.SSTab2, &editor.SSTab3, &editor.rtfEdit, &editor.cmdInvCalc, &menu.mnuAddFile,
-             &menu.mnuSave, &menu.mnuSavesubfile, &menu.mnuPreview, &m_parts.formats.Command39})
+             &menu.mnuSave, &menu.mnuSavesubfile, &menu.mnuPreview, &menu.mnuSearch,
+             &menu.mnuReplace, &menu.mnuSearchAgain, &menu.mnuGotoLine, &m_parts.formats.Command39,
+             &editor.Label74, &editor.Label75, &editor.btnNode[0]})
     {
         control->setEnabled(true);
+    }
+    for (Button &button : m_parts.document.player.Command49) {
+        button.setEnabled(true);
     }
     m_parts.formats.Combo8[1].setAvailable(true);
     menu.mnuPrint.setEnabled(m_parts.ports.printer.isAvailable());

@@ -43,8 +43,8 @@ void FileCommands::nameDocument(const QString &path, int formatId)
     document.subBaseName = nameOf(path).toString().section(u'.', 0, 0);
     document.ftpFileName = nameOf(path).toString().replace(u' ', u'_');
     StatusBar &bar = m_parts.status.StatusBar1;
-    bar.setPanel(1, shortened(path));
-    bar.setPanel(2, filterLabel(formatId));
+    bar.setPanel(NamePanel, shortened(path));
+    bar.setPanel(FormatPanel, filterLabel(formatId));
     fillFileProperties();
     m_parts.history.reset();
     emit document.nameChanged();

@@ -169,10 +169,16 @@ void LanguagePack::apply(const LanguageSection &section, int index, const Texts 
         setElement(settingsNodeCaption, index, texts.caption);
         break;
     case LanguageTarget::VariableHelp: setElement(sysVarHelp, index, texts.caption); break;
-    case LanguageTarget::Controls: {
+    case LanguageTarget::Controls:
+    case LanguageTarget::Texts: {
         const auto row = std::ranges::find(section.rows, index, &LanguageRow::index);
-        if (row != section.rows.end()) {
+        if (row == section.rows.end()) {
+            return;
+        }
+        if (section.target == LanguageTarget::Controls) {
             setRow(section, *row, texts);
+        } else if (!texts.caption.isEmpty()) {
+            ownTexts.insert(row->caption.toString(), texts.caption);
         }
     }
     }

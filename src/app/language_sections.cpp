@@ -9,8 +9,9 @@ std::span<const LanguageSection> languageSections()
 {
     static const std::vector<LanguageSection> all = [] {
         std::vector<LanguageSection> sections;
-        for (const auto &run : {mainSections(), editorSections(), toolSections(),
-                                settingsSections(), dialogSections()})
+        for (const auto &run :
+             {mainSections(), editorSections(), toolSections(), settingsSections(),
+              dialogSections(), windowSections(), messageSections()})
         {
             sections.insert(sections.end(), run.begin(), run.end());
         }

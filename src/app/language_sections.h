@@ -26,6 +26,7 @@ enum class LanguageTarget {
     Controls,      ///< what `rows` tell
     MainNodes,     ///< captions of the main tree, in the order of `treeNodes`
     SettingsNodes, ///< captions of the Settings tree; `rows` hold the English ones
+    Texts,         ///< texts that belong to no control, by the English ones in `rows`
     VariableHelp,  ///< descriptions of the system variables; `rows` hold the English ones
 };
 
@@ -57,6 +58,8 @@ std::span<const LanguageSection> editorSections();
 std::span<const LanguageSection> toolSections();
 std::span<const LanguageSection> settingsSections();
 std::span<const LanguageSection> dialogSections();
+std::span<const LanguageSection> windowSections();
+std::span<const LanguageSection> messageSections();
 std::span<const LanguageRow> variableHelpRows();
 
 } // namespace kavro

@@ -43,6 +43,14 @@ constexpr LanguageRow history[] = {
     {2, u"Command1(1)", u"Restore", u"Goes back to before the selected change"},
 };
 
+constexpr LanguageRow goToLine[] = {
+    {0, u"", u"Go to Line"},
+    {1, u"Label1", u"Line"},
+    {2, u"txtLine", {}, u"Enter the number of the line"},
+    {3, u"cmdOk", u"OK", u"Goes to the line"},
+    {4, u"cmdCancel", u"Cancel", u"Closes the window and stays"},
+};
+
 constexpr LanguageRow wizard[] = {
     {0, u"", u"Wizard"},
     {1, u"cmdGo", u"Go", u"Runs the selected job"},
@@ -129,6 +137,7 @@ std::span<const LanguageSection> dialogSections()
         {u"SysVarHelp", u"frmSystem", variableHelpRows(), {}, LanguageTarget::VariableHelp},
         {u"System", u"frmSystem", system, systemGroup},
         {u"History", u"frmHistory", history},
+        {u"Go To Line", u"frmGoto", goToLine},
         {u"Wizard", u"frmWizard", wizard},
         {u"DataBase", u"frmDbase", dataBase},
         {u"Help", u"frmHelp", help},

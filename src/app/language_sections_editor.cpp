@@ -33,6 +33,11 @@ constexpr LanguageRow searchReplace[] = {
     {2, u"Command2", u"Delete current record", u"Deletes the selected search from the list"},
     {3, u"cmdSearch", u"Go replacing", u"Finds the next place, or replaces in all lines"},
     {4, u"Label47", {}, u"Opens the list of stored searches"},
+    {5, u"List4", {}, u"Stored searches and replacements"},
+    {6, u"lblMatches", {}, u"Cels that hold the text, in all lines"},
+    {7, u"lblSearch", u"Search for"},
+    {8, u"lblReplace", u"Replace with"},
+    {9, u"lblStored", u"Stored"},
 };
 
 constexpr LanguageRow filters[] = {
@@ -40,6 +45,7 @@ constexpr LanguageRow filters[] = {
     {1, u"Check4(0)", u"Reverse Hebrew", u"Reverse text"},
     {2, u"Check4(1)", u"Correct long lines", u"Reverse text"},
     {3, u"txtMaxCount", {}, u"Enter max character amount for a line"},
+    {4, u"lblMaxCount", u"Most characters"},
 };
 
 constexpr LanguageRow font[] = {
@@ -48,6 +54,8 @@ constexpr LanguageRow font[] = {
     {2, u"Combo9(1)", {}, u"Style of the line"},
     {3, u"Label20", {}, u"Opens the list of fonts"},
     {4, u"Label44", {}, u"Opens the list of styles"},
+    {5, u"lblFont(0)", u"Font"},
+    {6, u"lblFont(1)", u"Style"},
 };
 
 constexpr LanguageRow selection[] = {
@@ -86,6 +94,9 @@ constexpr LanguageRow time[] = {
     {5, u"rtfDurShift", {}, u"Enter the step, mm:ss,mmm"},
     {6, u"rtfTimeStart", {}, u"Start of the line, hh:mm:ss,mmm"},
     {7, u"rtfTimeEnd", {}, u"End of the line, hh:mm:ss,mmm"},
+    {8, u"lblTime(0)", u"Start"},
+    {9, u"lblTime(1)", u"End"},
+    {10, u"lblTime(2)", u"Step"},
 };
 
 constexpr LanguageRow frameRate[] = {

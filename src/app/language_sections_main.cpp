@@ -36,6 +36,9 @@ constexpr LanguageRow mainMenu[] = {
     {27, u"mnuGotoLine", u"Go to Line ..", u"Goes to a line by its number"},
     {28, u"mnuNextFinding", u"Next Finding", u"Goes to the next line with a fault"},
     {29, u"mnuPreviousFinding", u"Previous Finding", u"Goes to the line with a fault before this one"},
+    {30, u"mnuSearchAgain", u"Search Again", u"Goes to the next place of the text that is searched for"},
+    {31, u"mnuSearch", u"Search ..", u"Looks for a text in all lines"},
+    {32, u"mnuReplace", u"Replace ..", u"Replaces a text in all lines"},
 };
 
 constexpr LanguageRow mainTabs[] = {
@@ -100,6 +103,8 @@ constexpr LanguageRow partition[] = {
     {4, u"command29(1)", u"Next", u"Shows the next part"},
     {5, u"Label66", u"Clear", u"Deletes the part"},
     {6, u"Label31", {}, u"Opens the list of formats"},
+    {7, u"Label6", u"Parts"},
+    {8, u"Label8", u"Format of the files"},
 };
 
 constexpr LanguageSection sections[] = {

@@ -45,6 +45,7 @@ constexpr LanguageRow settings[] = {
     {26, u"Label65", {}, u"Opens the list of scripts"},
     {27, u"Command1(0)", u"Cancel", u"Stores nothing"},
     {28, u"Command1(1)", u"OK", u"Stores the settings and uses them"},
+    {29, u"lblFrameRate", u"Frame rate"},
 };
 
 constexpr LanguageSection sections[] = {

@@ -52,6 +52,9 @@ constexpr LanguageRow diagnose[] = {
     {8, u"Check3(8)", u"Invalid", u"Repairs invalid lines"},
     {9, u"Check3(9)", u"Empty", u"Repairs invalid lines"},
     {10, u"Command27", u"Go diagnose", u"Looks through all lines"},
+    {11, u"fraCheck(0)", u"Check lines"},
+    {12, u"fraCheck(1)", u"Count"},
+    {13, u"fraCheck(2)", u"Repair"},
 };
 
 constexpr LanguageRow macro[] = {

@@ -107,7 +107,8 @@ Navigation::Navigation(Form &frmMain, const Parts &parts)
     Combo13.setVisible(false);
     std::ranges::transform(treeNodes(), nodeCaption.begin(),
                            [](const TreeNode &node) { return node.caption.toString(); });
-    QObject::connect(&TV1, &TreeView::clicked, &TV1, [this](int node) { clickNode(node); });
+    QObject::connect(&TV1, &TreeView::clicked, &TV1,
+                     [this](int node) { selectNode(TV1.node(node).key); });
     connectTabs();
     openBottomPanel(true);
 }
@@ -134,7 +135,10 @@ void Navigation::LoadNodes()
         const TreeNode &node = nodes[i];
         const int parent =
             node.parent.isEmpty() ? TreeView::noNode : TV1.find(node.parent.toString());
-        TV1.add(parent, nodeCaption[i], node.key.toString());
+        const int added = TV1.add(parent, nodeCaption[i], node.key.toString());
+        if (parent == TreeView::noNode) {
+            TV1.expand(added);
+        }
     }
     const int recent = TV1.find(u"recent"_s);
     for (const QString &path : Combo13.items()) {
@@ -164,9 +168,8 @@ bool Navigation::leadsSomewhere(int node) const
     });
 }
 
-void Navigation::clickNode(int node)
+void Navigation::selectNode(const QString &key)
 {
-    const QString key = TV1.node(node).key;
     if (key.startsWith(fileKeyPrefix)) {
         loadRecent(key.sliced(fileKeyPrefix.size()));
     } else if (const TreeNode *known = treeNode(key)) {

@@ -6,10 +6,12 @@
 #include "controls/tab_strip.h"
 #include "controls/tree_view.h"
 #include "core/language.h"
+#include "core/main_tabs.h"
 
 #include <QString>
 
 #include <array>
+#include <functional>
 
 namespace kavro {
 
@@ -26,17 +28,6 @@ struct MainMenu;
 struct PlayerPage;
 struct Ports;
 struct SettingsPage;
-
-/// The tabs of `tabMain`.
-enum MainTab {
-    CalculatorTab,
-    PartitionTab,
-    EditorTab,
-    PlayerTab,
-    DiagnoseTab,
-    MacroTab,
-    OnlineTab
-};
 
 /// Place and size of the main window in twips, 15 to a pixel. The view keeps it true.
 struct ScreenPos
@@ -79,6 +70,8 @@ public:
     void SetScreenPos();
     /// Builds the tree from `nodeCaption` and the recent list.
     void LoadNodes();
+    /// Does what a click on the node of that key does; nothing for a key that leads nowhere.
+    void selectNode(const QString &key);
     /// The buttons `command4` for the tab of `SSTab3`.
     void subSetEditTab();
 
@@ -109,16 +102,18 @@ public:
 
 private:
     void connectTabs();
-    void clickNode(int node);
+    void connectInner(InnerTabs inner, int firstCode, std::function<int(int tab)> page);
     void clickMenu(NodeAction action);
     void showPage(const TreeNode &node);
+    void markPlace(InnerTabs inner);
+    [[nodiscard]] TabStrip *innerTabs(InnerTabs inner);
     void loadRecent(const QString &path);
     void enterMainTab(int tab);
     void enterPlayer();
     void openBottomPanel(bool open);
-    void record(int code, int page);
     void showCopyButton(int button, LangGroup group, int item);
     void showCalculatorButtons();
+    void renewCopyButtons();
 
     Parts m_parts;
 };

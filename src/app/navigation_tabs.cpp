@@ -8,6 +8,9 @@
 #include "core/player_page.h"
 #include "core/ports.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace kavro {
 
 using namespace Qt::StringLiterals;
@@ -54,11 +57,13 @@ void Navigation::connectTabs()
     QObject::connect(&tabMain, &TabStrip::tabChanged, &tabMain, [this](int tab) {
         openBottomPanel(true);
         enterMainTab(tab);
+        markPlace(InnerTabs::NoTabs);
     });
     QObject::connect(&tabMain, &TabStrip::picked, &tabMain, [this](int tab, int previous) {
         m_parts.ports.player.stop();
         if (tab == previous) {
             enterMainTab(tab);
+            markPlace(InnerTabs::NoTabs);
         }
         // A recorded macro shall not begin with the way to the recorder.
         if (tab != MacroTab || m_parts.trace.recorderState != 1) {
@@ -66,29 +71,51 @@ void Navigation::connectTabs()
         }
         autoHelp(helpOfMainTab(tab));
     });
-    QObject::connect(&tabCalculator, &TabStrip::tabChanged, &tabCalculator,
-                     [this] { showCalculatorButtons(); });
-    QObject::connect(&tabCalculator, &TabStrip::picked, &tabCalculator, [this](int tab) {
-        record(CalculatorCode + tab, helpOfMainTab(CalculatorTab));
-    });
-    TabStrip &SSTab2 = m_parts.editor.SSTab2;
-    QObject::connect(&SSTab2, &TabStrip::picked, &SSTab2, [this](int tab) {
-        if (tab <= lastEditorTab) {
-            record(EditorCode + tab, EditorPages + tab);
-        }
-    });
-    TabStrip &SSTab3 = m_parts.editor.SSTab3;
-    QObject::connect(&SSTab3, &TabStrip::tabChanged, &SSTab3, [this] { subSetEditTab(); });
-    QObject::connect(&SSTab3, &TabStrip::picked, &SSTab3,
-                     [this](int tab) { record(TimingCode + tab, TimingPages + tab); });
-    QObject::connect(&SSTab5, &TabStrip::picked, &SSTab5,
-                     [this](int tab) { record(OnlineCode + tab, OnlinePages + tab); });
-    QObject::connect(&tabClipboard, &TabStrip::picked, &tabClipboard,
-                     [this](int tab) { record(BottomCode + tab, BottomPages + tab); });
+    connectInner(InnerTabs::Calculator, CalculatorCode,
+                 [this](int) { return helpOfMainTab(CalculatorTab); });
+    connectInner(InnerTabs::Editor, EditorCode,
+                 [](int tab) { return tab <= lastEditorTab ? EditorPages + tab : noPage; });
+    connectInner(InnerTabs::Timing, TimingCode, [](int tab) { return TimingPages + tab; });
+    connectInner(InnerTabs::Online, OnlineCode, [](int tab) { return OnlinePages + tab; });
+    connectInner(InnerTabs::Bottom, BottomCode, [](int tab) { return BottomPages + tab; });
     QObject::connect(&SSTab1, &TabStrip::picked, &SSTab1,
-                     [this](int tab) { record(LeftCode + tab, noPage); });
+                     [this](int tab) { m_parts.trace.RecordAction({}, LeftCode + tab); });
     QObject::connect(&command55[0], &Button::clicked, &command55[0],
                      [this] { openBottomPanel(!tabClipboard.isVisible()); });
+}
+
+/// A tab without a page of the help has no code either.
+void Navigation::connectInner(InnerTabs inner, int firstCode, std::function<int(int tab)> page)
+{
+    TabStrip &tabs = *innerTabs(inner);
+    const auto follow = [this, inner] {
+        renewCopyButtons();
+        markPlace(inner);
+    };
+    QObject::connect(&tabs, &TabStrip::tabChanged, &tabs, follow);
+    QObject::connect(&tabs, &TabStrip::picked, &tabs,
+                     [this, firstCode, follow, page = std::move(page)](int tab) {
+                         follow();
+                         const int help = page(tab);
+                         if (help != noPage) {
+                             m_parts.trace.RecordAction({}, firstCode + tab);
+                             autoHelp(help);
+                         }
+                     });
+}
+
+TabStrip *Navigation::innerTabs(InnerTabs inner)
+{
+    switch (inner) {
+    case InnerTabs::NoTabs: break;
+    case InnerTabs::Calculator: return &tabCalculator;
+    case InnerTabs::Editor: return &m_parts.editor.SSTab2;
+    case InnerTabs::Timing: return &m_parts.editor.SSTab3;
+    case InnerTabs::Online: return &SSTab5;
+    case InnerTabs::Bottom: return &tabClipboard;
+    case InnerTabs::Left: return &SSTab1;
+    }
+    return nullptr;
 }
 
 void Navigation::showPage(const TreeNode &node)
@@ -96,20 +123,38 @@ void Navigation::showPage(const TreeNode &node)
     if (node.mainTab >= 0) {
         tabMain.pick(node.mainTab);
     }
-    switch (node.inner) {
-    case InnerTabs::NoTabs: break;
-    case InnerTabs::Calculator: tabCalculator.pick(node.innerTab); break;
-    case InnerTabs::Editor: m_parts.editor.SSTab2.pick(node.innerTab); break;
-    case InnerTabs::Timing: m_parts.editor.SSTab3.pick(node.innerTab); break;
-    case InnerTabs::Online: SSTab5.pick(node.innerTab); break;
-    case InnerTabs::Bottom: tabClipboard.pick(node.innerTab); break;
+    if (TabStrip *tabs = innerTabs(node.inner)) {
+        tabs->pick(node.innerTab);
+    }
+}
+
+/// Selects the node of the page that these tabs have brought to the front, so that the tree tells
+/// where the window is, whatever led there.
+void Navigation::markPlace(InnerTabs inner)
+{
+    const TabStrip *tabs = innerTabs(inner);
+    const auto place = std::ranges::find_if(treeNodes(), [&](const TreeNode &node) {
+        return node.action == NodeAction::Page && node.inner == inner
+               && (node.mainTab < 0 || node.mainTab == tabMain.tab())
+               && (!tabs || node.innerTab == tabs->tab());
+    });
+    if (place != treeNodes().end()) {
+        TV1.setSelected(TV1.find(place->key.toString()));
     }
 }
 
 void Navigation::enterMainTab(int tab)
 {
+    renewCopyButtons();
+    if (tab == PlayerTab) {
+        enterPlayer();
+    }
+}
+
+void Navigation::renewCopyButtons()
+{
     ClipboardPanel &panel = m_parts.clipboard;
-    switch (tab) {
+    switch (tabMain.tab()) {
     case CalculatorTab: showCalculatorButtons(); break;
     case PartitionTab:
         showCopyButton(0, LangGroup::CopyFirst, CopyToPartitionlist);
@@ -117,7 +162,6 @@ void Navigation::enterMainTab(int tab)
         panel.command4[1].setVisible(false);
         break;
     case EditorTab: subSetEditTab(); break;
-    case PlayerTab: enterPlayer(); break;
     default: break;
     }
 }
@@ -135,16 +179,9 @@ int Navigation::helpOfMainTab(int tab) const
     }
 }
 
-void Navigation::record(int code, int page)
-{
-    m_parts.trace.RecordAction({}, code);
-    if (page != noPage) {
-        autoHelp(page);
-    }
-}
-
 void Navigation::enterPlayer()
 {
+    subSetEditTab(); // the timing page stands beside the picture
     const LanguageTable &language = m_parts.language;
     const QString title = u" ["_s + language.text(LangGroup::Player, PlayerTitle) + u']';
     m_parts.player.Label27.setCaption(language.text(LangGroup::Player, UpdatingText) + title);

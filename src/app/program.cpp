@@ -8,6 +8,15 @@ namespace kavro {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int settingsHelpPage = 19;
+constexpr int previewHelpPage = 25;
+constexpr int historyHelpPage = 27;
+constexpr int wizardHelpPage = 28;
+
+} // namespace
+
 Program::Program(const Ports &doors, FileStore &fileStore, Folders &appFolders)
     : ports(doors),
       store(fileStore),
@@ -19,8 +28,12 @@ Program::Program(const Ports &doors, FileStore &fileStore, Folders &appFolders)
       frmSplash(u"frmSplash"_s),
       frmTip(u"frmTip"_s),
       frmHelp(u"frmHelp"_s),
+      frmAbout(u"frmAbout"_s),
+      frmWizard(u"frmWizard"_s),
       frmSettings(u"frmSettings"_s),
       frmHistory(u"frmHistory"_s),
+      frmPreview(u"frmPreview"_s),
+      frmGoto(u"frmGoto"_s),
       menu(frmMain),
       editor(frmMain),
       times(frmMain),
@@ -34,8 +47,25 @@ Program::Program(const Ports &doors, FileStore &fileStore, Folders &appFolders)
       settings(frmSettings),
       messages(frmMessageBox, ports.messages, trace, variables),
       control_window(frmControl, settings),
-      history(frmHistory),
       document(editor, times, fonts, player, settings, language, trace),
+      diagnose(frmMain, {.document = document,
+                         .basicEdit = basicEdit,
+                         .history = history,
+                         .status = status,
+                         .menu = menu,
+                         .language = language,
+                         .variables = variables,
+                         .trace = trace,
+                         .clock = ports.clock}),
+      history(frmHistory, {.document = document,
+                           .forms = ports.forms,
+                           .clock = ports.clock,
+                           .folders = folders,
+                           .store = store,
+                           .messages = messages,
+                           .diagnose = diagnose,
+                           .versionNumber = versionNumber()}),
+      undo(document, menu, diagnose, trace),
       writer({.document = document,
               .partition = partition,
               .control = control_window,
@@ -56,7 +86,54 @@ Program::Program(const Ports &doors, FileStore &fileStore, Folders &appFolders)
               .clock = ports.clock,
               .host = host,
               .nodeFile = nodeFile}),
-      basicEdit(editor, document, trace),
+      basicEdit({.document = document,
+                 .history = history,
+                 .diagnose = diagnose,
+                 .messages = messages,
+                 .trace = trace}),
+      shift(frmMain, document, history, messages, language, trace),
+      stretch(frmMain, document, history, control_window, messages, language, trace),
+      timeChange(frmMain, document, history, messages, language, trace),
+      frameRateConversion(frmMain, frameRates, document, history, messages, language, trace),
+      searchReplace(frmMain, {.menu = menu,
+                              .status = status,
+                              .document = document,
+                              .history = history,
+                              .language = language,
+                              .trace = trace}),
+      filters(frmMain, document, history, trace),
+      fontChange(document, history, trace),
+      clips(frmMain, {.panel = clipboard,
+                      .editor = editor,
+                      .times = times,
+                      .partition = partition,
+                      .rtfShiftDuration = shift.rtfShiftDuration,
+                      .tabMain = navigation.tabMain,
+                      .tabCalculator = navigation.tabCalculator,
+                      .messages = messages,
+                      .language = language,
+                      .trace = trace}),
+      nodeTool({.editor = editor,
+                .document = document,
+                .status = status,
+                .messages = messages,
+                .language = language}),
+      partitionList(frmMain, partition, formats, trace),
+      splitOutput(frmMain, {.document = document,
+                            .page = partition,
+                            .list = partitionList,
+                            .formats = formats,
+                            .writer = writer,
+                            .messages = messages,
+                            .language = language,
+                            .folders = folders,
+                            .trace = trace}),
+      scriptPreview(frmPreview, {.document = document,
+                                 .writer = writer,
+                                 .status = status,
+                                 .messages = messages,
+                                 .language = language,
+                                 .forms = ports.forms}),
       fileCommands(frmMain, frmFile,
                    {.ports = ports,
                     .document = document,
@@ -82,6 +159,7 @@ Program::Program(const Ports &doors, FileStore &fileStore, Folders &appFolders)
                      .settings = settings,
                      .frameRates = frameRates,
                      .navigation = navigation,
+                     .searches = searchReplace.List4,
                      .folders = folders,
                      .store = store}),
       navigation(frmMain, {.ports = ports,
@@ -99,18 +177,35 @@ Program::Program(const Ports &doors, FileStore &fileStore, Folders &appFolders)
                            .trace = trace}),
       splash(frmSplash),
       tips(frmTip, settings, language, folders, ports.random),
+      wizard(frmWizard, settings),
       help(frmHelp, ports.help, language, folders),
+      goTo(frmGoto, {.ports = ports, .menu = menu, .document = document, .messages = messages}),
+      about(frmAbout, language),
       languagePack({.language = language,
                     .nodeCaption = navigation.nodeCaption,
                     .settings = settings,
                     .messages = messages,
                     .folders = folders,
                     .form = [this](QStringView name) { return form(name); }}),
-      m_forms{&frmMain, &frmFile, &frmControl,  &frmMessageBox, &frmSplash,
-              &frmTip,  &frmHelp, &frmSettings, &frmHistory}
+      settingsWindow(frmSettings, {.ports = ports,
+                                   .settings = settings,
+                                   .frameRates = frameRates,
+                                   .files = settingsFiles,
+                                   .languagePack = languagePack,
+                                   .messages = messages,
+                                   .language = language,
+                                   .trace = trace}),
+      recovery(frmMain, {.ports = ports,
+                         .document = document,
+                         .messages = messages,
+                         .folders = folders,
+                         .store = store,
+                         .bringBack = [this](const KeptDocument &kept) { bringBack(kept); }}),
+      m_forms{&frmMain,  &frmFile,   &frmControl,  &frmMessageBox, &frmSplash,  &frmTip, &frmHelp,
+              &frmAbout, &frmWizard, &frmSettings, &frmHistory,    &frmPreview, &frmGoto}
 {
     connectMenu();
-    connectFrameRates();
+    connectTools();
     setInitialValues();
 }
 
@@ -127,44 +222,49 @@ void Program::connectMenu()
         trace.RecordAction({}, 108);
         tips.show();
     });
-    run(menu.mnuAbout, [this] { mnuAbout(); });
+    run(menu.mnuAbout, [this] {
+        trace.RecordAction({}, 110);
+        about.show();
+    });
+    run(menu.mnuSettings, [this] {
+        navigation.autoHelp(settingsHelpPage);
+        settingsWindow.open();
+    });
+    run(menu.mnuWizard, [this] {
+        navigation.autoHelp(wizardHelpPage);
+        wizard.show();
+    });
+    run(menu.mnuPreview, [this] {
+        navigation.autoHelp(previewHelpPage);
+        scriptPreview.mnuPreview();
+    });
+    run(menu.mnuHistory, [this] {
+        navigation.autoHelp(historyHelpPage);
+        history.show();
+    });
     QObject::connect(&frmMain, &Form::closeRequested, &frmMain, [this] { exit(); });
     splash.gone = [this] { splashGone(); };
     // What these open is still to come.
-    for (Button *entry : {&menu.mnuDBManage, &menu.mnuUndo, &menu.mnuRedo, &menu.mnuGotoLine,
-                          &menu.mnuNextFinding, &menu.mnuPreviousFinding, &menu.mnuPreview,
-                          &menu.mnuSettings, &menu.mnuSystem, &menu.mnuHistory, &menu.mnuWizard})
-    {
+    for (Button *entry : {&menu.mnuDBManage, &menu.mnuSystem}) {
         entry->setVisible(false);
     }
 }
 
-void Program::connectFrameRates()
+void Program::connectTools()
 {
-    for (OptionButton &rate : frameRates.optFrameRate) {
-        QObject::connect(&rate, &OptionButton::valueChanged, &rate, [this, &rate](bool on) {
-            if (!on) {
-                return;
-            }
-            document.frameRate = rate.caption();
-            // From a rate to itself is the safe start of a conversion.
-            for (DropList &list : frameRates.Combo14) {
-                list.setSelected(rate.index());
-            }
-        });
-        QObject::connect(&rate, &OptionButton::clicked, &rate,
-                         [this, &rate] { trace.RecordAction({}, 312 + rate.index()); });
-    }
-}
-
-void Program::mnuAbout()
-{
-    trace.RecordAction({}, 110);
-    const auto label = [this](int item) { return language.text(LangGroup::About, item); };
-    messages.ShowMessage({u"%1/n/n%2 %3/n/n%4 %5/n%6 %7"_s,
-                          {titleWithVersion(), label(4), buildNumber(), label(1),
-                           language.languageName, label(2), language.languageAuthor}},
-                         Answer::Ok, u"ok"_s, versionName());
+    QObject::connect(&navigation.tabMain, &TabStrip::tabChanged, &partition.grid, [this](int tab) {
+        if (tab == PartitionTab) {
+            partitionList.enterCell();
+        }
+    });
+    messages.inLanguage = [this](const QString &text) {
+        return languagePack.ownTexts.value(text, text);
+    };
+    undo.formatChanged = [this] { loader.showFormat(document.curFormatId); };
+    searchReplace.showPage = [this] {
+        navigation.tabMain.setTab(EditorTab);
+        editor.SSTab2.setTab(SearchPage);
+    };
 }
 
 void Program::dropFile(const QString &path)
@@ -194,6 +294,7 @@ bool Program::exit()
     if (!m_forVerb) {
         settingsFiles.writeAtExit();
     }
+    recovery.end();
     folders.tidy();
     m_ended = true;
     for (Form *form : m_forms) {

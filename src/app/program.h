@@ -1,15 +1,18 @@
 #pragma once
 
+#include "app/about_window.h"
 #include "app/document_host.h"
 #include "app/file_commands.h"
 #include "app/language_pack.h"
 #include "app/navigation.h"
+#include "app/recovery.h"
 #include "app/settings_files.h"
+#include "app/settings_window.h"
 #include "app/windows.h"
+#include "app/wizard_window.h"
 #include "controls/form.h"
 #include "core/clipboard_panel.h"
 #include "core/control_window.h"
-#include "core/diagnose_host.h"
 #include "core/document.h"
 #include "core/edit_history.h"
 #include "core/editor_page.h"
@@ -28,10 +31,24 @@
 #include "core/settings_page.h"
 #include "core/status_panels.h"
 #include "core/time_page.h"
+#include "core/undo_store.h"
+#include "diagnose/diagnose.h"
 #include "formats/create_subfile.h"
 #include "formats/load_subfile.h"
 #include "formats/node_file.h"
+#include "partition/node_tool.h"
+#include "partition/partition_list.h"
+#include "partition/script_preview.h"
+#include "partition/split_output.h"
 #include "tools/basic_edit.h"
+#include "tools/clipboard.h"
+#include "tools/filters.h"
+#include "tools/font_change.h"
+#include "tools/frame_rate_conversion.h"
+#include "tools/search_replace.h"
+#include "tools/shift.h"
+#include "tools/stretch.h"
+#include "tools/time_change.h"
 
 #include <QList>
 #include <QString>
@@ -88,8 +105,12 @@ public:
     Form frmSplash;
     Form frmTip;
     Form frmHelp;
+    Form frmAbout;
+    Form frmWizard;
     Form frmSettings;
     Form frmHistory;
+    Form frmPreview;
+    Form frmGoto;
 
     LanguageTable language;
     ActionTrace trace;
@@ -109,25 +130,43 @@ public:
 
     Messages messages;
     ControlWindow control_window;
-    EditHistory history;
     SubtitleDocument document;
+    Diagnose diagnose;
+    EditHistory history;
+    UndoStore undo;
     SubtitleWriter writer;
     NodeFile nodeFile;
-    DiagnoseHost diagnose;
     DocumentHost host;
     SubtitleLoader loader;
     BasicEdit basicEdit;
+    Shift shift;
+    Stretch stretch;
+    TimeChange timeChange;
+    FrameRateConversion frameRateConversion;
+    SearchReplace searchReplace;
+    Filters filters;
+    FontChange fontChange;
+    Clipboard clips;
+    NodeTool nodeTool;
+    PartitionList partitionList;
+    SplitOutput splitOutput;
+    ScriptPreview scriptPreview;
     FileCommands fileCommands;
     SettingsFiles settingsFiles;
     Navigation navigation;
     SplashWindow splash;
     TipWindow tips;
+    WizardWindow wizard;
     HelpWindow help;
+    GotoWindow goTo;
+    AboutWindow about;
     LanguagePack languagePack;
+    SettingsWindow settingsWindow;
+    Recovery recovery;
 
 private:
     void connectMenu();
-    void connectFrameRates();
+    void connectTools();
     void setInitialValues();
 
     // The steps of the start.
@@ -141,8 +180,8 @@ private:
     void loadNamedFile(const QString &file);
     void loadLastFiles();
     void splashGone();
+    void bringBack(const KeptDocument &kept);
 
-    void mnuAbout();
     bool keepsChanges();
 
     QList<Form *> m_forms;

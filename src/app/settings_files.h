@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/file_status.h"
+
 #include <QString>
 #include <QStringList>
 #include <QStringView>
@@ -8,6 +10,8 @@ namespace kavro {
 
 class FileStore;
 class Folders;
+enum class Folder;
+class ListBox;
 class Navigation;
 class SubtitleDocument;
 struct FrameRatePage;
@@ -26,6 +30,7 @@ public:
         SettingsPage &settings;
         FrameRatePage &frameRates;
         Navigation &navigation;
+        ListBox &searches;
         Folders &folders;
         FileStore &store;
     };
@@ -35,6 +40,12 @@ public:
     /// Reads set.sdf and recent.sdf. A missing, short or damaged file leaves what follows as it
     /// stands, and reports nothing.
     void LoadSettingsFile();
+
+    /// Writes the options: set.sdf in its 22 lines, and the writing system beside it.
+    FileStatus writeOptions();
+
+    /// Reads sr.sdf, one stored search a line.
+    void readSearches();
 
     struct LastFiles
     {
@@ -50,16 +61,19 @@ public:
 
 private:
     bool readOptions();
+    void readScript();
     void readRecent();
     void writeRecent();
+    void writeSearches();
     void writeLast();
     void writePosition();
     void keep(QStringView name);
     [[nodiscard]] bool isMissing(QStringView name) const;
-    void writeLines(QStringView name, const QStringList &lines);
+    FileStatus writeLines(Folder folder, QStringView name, const QStringList &lines);
 
     Parts m_parts;
     QStringList m_recentAsRead;
+    QStringList m_searchesAsRead;
 };
 
 } // namespace kavro

@@ -36,6 +36,7 @@ constexpr int defaultRate = 2; ///< 25.000
 
 void Program::start(const QString &file)
 {
+    const Form::Busy busy(frmSplash);
     languagePack.setDesignCaptions();
     prepareFolders();
     control_window.quiet = true; // a load of the start shows no progress window
@@ -47,9 +48,13 @@ void Program::start(const QString &file)
     languagePack.LoadLanguage();
     fillTexts();
     fillFonts();
-    loadNamedFile(file);
+    settingsFiles.readSearches();
+    const bool broughtBack = recovery.begin(file);
+    if (!broughtBack) {
+        loadNamedFile(file);
+    }
     showFirstTabs();
-    if (file.isEmpty()) {
+    if (file.isEmpty() && !broughtBack) {
         loadLastFiles();
     }
     control_window.quiet = false;
@@ -118,10 +123,12 @@ void Program::loadSettings()
 void Program::fillTexts()
 {
     navigation.LoadNodes();
+    settingsWindow.LoadNodes();
     document.fillColumnCaptions();
+    partitionList.fillCaptions(language);
     fillFormatLists();
     fillLanguageLists();
-    status.StatusBar1.setPanel(3, language.text(LangGroup::Common, 39));
+    status.StatusBar1.setPanel(StatePanel, language.text(LangGroup::Common, 39));
     document.RefreshCurrentRow();
 }
 
@@ -142,6 +149,7 @@ void Program::fillFormatLists()
 void Program::fillLanguageLists()
 {
     constexpr int english = 9;
+    shift.fillDirections();
     for (DropList &list : formats.Combo8) {
         list.setItems(exchangeLanguages());
         list.setSelected(0);
@@ -170,6 +178,16 @@ void Program::loadNamedFile(const QString &file)
         LoadRequest request{.path = QFileInfo(file).absoluteFilePath()};
         loader.LoadSubFile(request);
     }
+}
+
+void Program::bringBack(const KeptDocument &kept)
+{
+    for (OptionButton &rate : frameRates.optFrameRate) {
+        if (rate.caption() == kept.frameRate) {
+            rate.setOn();
+        }
+    }
+    loader.bringBack(kept);
 }
 
 void Program::showFirstTabs()
@@ -206,6 +224,9 @@ void Program::splashGone()
     frmMain.show();
     if (settings.Check7[SettingsPage::ShowTips].isOn()) {
         tips.show();
+    }
+    if (settings.Check7[SettingsPage::ShowWizard].isOn()) {
+        wizard.show();
     }
 }
 

@@ -26,6 +26,8 @@ TipWindow::TipWindow(Form &frmTip, SettingsPage &settings, const LanguageTable &
     QObject::connect(&cmdNextTip, &Button::clicked, &cmdNextTip, [this] { pickTip(); });
     QObject::connect(&cmdOk, &Button::clicked, &cmdOk, [this] { m_form.hide(); });
     QObject::connect(&m_form, &Form::closeRequested, &cmdOk, [this] { m_form.hide(); });
+    QObject::connect(&m_settings.Check7[SettingsPage::ShowTips], &CheckBox::valueChanged,
+                     &chkLoadTipsAtStartup, [this](bool on) { chkLoadTipsAtStartup.setOn(on); });
     QObject::connect(&chkLoadTipsAtStartup, &CheckBox::clicked, &chkLoadTipsAtStartup, [this] {
         const bool on = chkLoadTipsAtStartup.isOn();
         m_settings.Check7[SettingsPage::ShowTips].setOn(on);

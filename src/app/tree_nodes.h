@@ -29,7 +29,7 @@ enum class NodeAction {
 };
 
 /// The second set of tabs that a page's node brings to the front.
-enum class InnerTabs { NoTabs, Calculator, Editor, Timing, Online, Bottom };
+enum class InnerTabs { NoTabs, Calculator, Editor, Timing, Online, Bottom, Left };
 
 /// A node of the main tree.
 struct TreeNode
@@ -48,7 +48,8 @@ struct TreeNode
 constexpr int treeNodeCount = 47;
 std::span<const TreeNode> treeNodes();
 
-/// nullptr when there is no node of that key, in any case of letters.
+/// What a key leads to, in any case of letters; nullptr for nothing. Some keys have no node in the
+/// tree.
 const TreeNode *treeNode(QStringView key);
 
 } // namespace kavro

@@ -33,6 +33,26 @@ LoadResult loadFile(Program &program, const QString &path, const LoadOptions &op
     return program.loader.LoadSubFile(request);
 }
 
+bool tellWrite(BatchMessages &messages, int before, const QString &path, const WriteResult &result)
+{
+    const bool told = messages.count > before;
+    if (result.kind == WriteResult::Kind::Written) {
+        for (const QString &loss : result.losses)
+            messages.tell(loss);
+        if (result.rowsLeft > 0 && !told)
+            messages.tell(u"Row %1 could not be written, with it %2 rows are missing in %3."_s
+                              .arg(result.firstRowLeft)
+                              .arg(result.rowsLeft)
+                              .arg(path));
+        return result.rowsLeft == 0;
+    }
+    if (told || result.error.isEmpty())
+        messages.tell(u"%1 was not written."_s.arg(path));
+    else
+        messages.tell(u"%1 was not written: %2."_s.arg(path, result.error));
+    return false;
+}
+
 Batch::Batch(const QString &appDir, std::optional<Answer> answer, const Streams &streams)
     : ports(streams.err, answer), disk(appDir)
 {}

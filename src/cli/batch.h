@@ -15,6 +15,7 @@
 namespace kavro {
 
 class Program;
+struct WriteResult;
 
 /// Where a verb finds the program's files and puts its own: the folder of --app-dir, else the
 /// shipped one, read only.
@@ -32,6 +33,11 @@ QList<QCommandLineOption> loadCallOptions();
 /// One load as all verbs do it: the load pipeline once, as a plain load or behind the document.
 LoadResult loadFile(Program &program, const QString &path, const LoadOptions &options,
                     bool add = false);
+
+/// Tells how the write of a file ended. True when every row is in it.
+///
+/// @param before  count of the messages ahead of the write
+bool tellWrite(BatchMessages &messages, int before, const QString &path, const WriteResult &result);
 
 /// Work on one document after the other with nobody there: whatever is to be told goes to the
 /// stream for people.

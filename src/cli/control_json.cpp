@@ -77,7 +77,7 @@ void writeKind(JsonWriter &json, const TabStrip &tabs)
 void writeKind(JsonWriter &json, const TreeView &tree)
 {
     json.key(u"nodes");
-    writeNodes(json, tree, tree.roots());
+    writeTree(json, tree);
 }
 
 void writeKind(JsonWriter &json, const Grid &grid)
@@ -121,6 +121,11 @@ void writeKinds(JsonWriter &json, const Control &control)
 }
 
 } // namespace
+
+void writeTree(JsonWriter &json, const TreeView &tree)
+{
+    writeNodes(json, tree, tree.roots());
+}
 
 void writeControl(JsonWriter &json, const Control &control)
 {

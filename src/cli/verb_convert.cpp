@@ -21,31 +21,6 @@ struct ConvertCall
     bool overwrite = false;
 };
 
-namespace {
-
-/// Tells how a write ended. True when every row is in the file.
-bool tellWrite(BatchMessages &messages, int before, const Output &output, const WriteResult &result)
-{
-    const bool told = messages.count > before;
-    if (result.kind == WriteResult::Kind::Written) {
-        for (const QString &loss : result.losses)
-            messages.tell(loss);
-        if (result.rowsLeft > 0 && !told)
-            messages.tell(u"Row %1 could not be written, with it %2 rows are missing in %3."_s
-                              .arg(result.firstRowLeft)
-                              .arg(result.rowsLeft)
-                              .arg(output.path));
-        return result.rowsLeft == 0;
-    }
-    if (told || result.error.isEmpty())
-        messages.tell(u"%1 was not written."_s.arg(output.path));
-    else
-        messages.tell(u"%1 was not written: %2."_s.arg(output.path, result.error));
-    return false;
-}
-
-} // namespace
-
 ConvertVerb::ConvertVerb()
     : Verb({.name = u"convert"_s,
             .usage = u"INPUT... (-o OUT | --out-dir DIR) --to FORMAT [options]"_s,
@@ -130,7 +105,7 @@ bool ConvertVerb::convert(Batch &batch, const Output &output, const ConvertCall 
                          .literal = output.literal,
                          .askOverwrite = false};
     const WriteResult result = program->writer.CreateSubFile(request);
-    return tellWrite(messages, before, output, result) && loaded == Batch::Loaded::Whole;
+    return tellWrite(messages, before, output.path, result) && loaded == Batch::Loaded::Whole;
 }
 
 } // namespace kavro

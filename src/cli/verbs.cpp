@@ -1,6 +1,7 @@
 #include "cli/verbs.h"
 
 #include "cli/verb_convert.h"
+#include "cli/verb_diagnose.h"
 #include "cli/verb_drive.h"
 #include "cli/verb_dump.h"
 #include "cli/verb_formats.h"
@@ -55,6 +56,7 @@ std::vector<std::unique_ptr<Verb>> allVerbs()
     verbs.push_back(std::make_unique<FormatsVerb>());
     verbs.push_back(std::make_unique<ConvertVerb>());
     verbs.push_back(std::make_unique<DumpVerb>());
+    verbs.push_back(std::make_unique<DiagnoseVerb>());
     verbs.push_back(std::make_unique<DriveVerb>());
     return verbs;
 }

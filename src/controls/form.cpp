@@ -30,6 +30,15 @@ void Form::hide()
     }
 }
 
+void Form::addBusy(int count)
+{
+    const bool before = isBusy();
+    m_busy += count;
+    if (before != isBusy()) {
+        emit busyChanged(isBusy());
+    }
+}
+
 Control *Form::control(QStringView name) const
 {
     return m_byName.value(name.toString().toLower());

@@ -39,6 +39,19 @@ public:
     /// All controls in the order in which they were declared.
     [[nodiscard]] const QList<Control *> &controls() const { return m_controls; }
 
+    /// While one lives, the wait cursor stands over the window. They nest.
+    class Busy
+    {
+    public:
+        explicit Busy(Form &form) : m_form(form) { m_form.addBusy(1); }
+        ~Busy() { m_form.addBusy(-1); }
+        Q_DISABLE_COPY_MOVE(Busy)
+
+    private:
+        Form &m_form;
+    };
+    [[nodiscard]] bool isBusy() const { return m_busy > 0; }
+
     [[nodiscard]] Control *focus() const { return m_focus; }
     /// Moves the focus; nullptr takes it away. The old holder's `lostFocus` comes before the new
     /// one's `gotFocus`; the present holder is told nothing.
@@ -48,16 +61,19 @@ signals:
     void captionChanged(const QString &caption);
     void openChanged(bool open);
     void closeRequested();
+    void busyChanged(bool busy);
     void focusChanged(kavro::Control *control);
 
 private:
     friend class Control;
+    void addBusy(int count);
     void enter(Control &control);
     void leave(Control &control);
 
     QString m_name;
     QString m_caption;
     bool m_open = false;
+    int m_busy = 0;
     Control *m_focus = nullptr;
     QList<Control *> m_controls;
     QHash<QString, Control *> m_byName; ///< keys in lower case, with the index

@@ -87,6 +87,14 @@ void Grid::setAllRows(const QList<GridRow> &rows)
     fit();
 }
 
+void Grid::rewrite(const std::function<void(QList<GridRow> &rows)> &change)
+{
+    const Batch batch(*this);
+    change(m_rows);
+    dropColorsFrom(rows());
+    fit();
+}
+
 void Grid::insertRow(int at, const GridRow &cells)
 {
     const int place = std::clamp(at, 1, rows());
@@ -94,7 +102,7 @@ void Grid::insertRow(int at, const GridRow &cells)
     row.resize(m_cols);
     m_rows.insert(place, row);
     if (!m_colors.isEmpty()) {
-        QHash<QPair<int, int>, Color> moved;
+        Colors moved;
         for (auto it = m_colors.cbegin(); it != m_colors.cend(); ++it) {
             const auto [r, c] = it.key();
             moved.insert({r >= place ? r + 1 : r, c}, it.value());
@@ -113,7 +121,7 @@ void Grid::removeRow(int at)
     }
     m_rows.removeAt(at);
     if (!m_colors.isEmpty()) {
-        QHash<QPair<int, int>, Color> moved;
+        Colors moved;
         for (auto it = m_colors.cbegin(); it != m_colors.cend(); ++it) {
             const auto [r, c] = it.key();
             if (r != at) {
@@ -171,6 +179,15 @@ void Grid::clearCellColors()
     }
 }
 
+void Grid::setAllColors(const Colors &colors)
+{
+    m_colors = colors;
+    dropColorsFrom(rows());
+    if (m_batches == 0) {
+        emit reset();
+    }
+}
+
 void Grid::moveTo(int row, int col)
 {
     m_row = std::clamp(row, std::min(1, rows() - 1), rows() - 1);
@@ -203,7 +220,11 @@ void Grid::fit()
 
 void Grid::dropColorsFrom(int row)
 {
-    m_colors.removeIf([row](auto it) { return it.key().first >= row; });
+    const auto behind = [row](const QPair<int, int> &cell) { return cell.first >= row; };
+    // Looked for ahead: a shared table is copied by the first write.
+    if (std::any_of(m_colors.keyBegin(), m_colors.keyEnd(), behind)) {
+        m_colors.removeIf([&](auto it) { return behind(it.key()); });
+    }
 }
 
 void Grid::changed(int row, int col)

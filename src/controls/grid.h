@@ -6,6 +6,8 @@
 #include <QList>
 #include <QPair>
 
+#include <functional>
+
 namespace kavro {
 
 /// The cells of one row, column 0 first. Shared until written, so that a copy of all rows is cheap.
@@ -45,6 +47,9 @@ public:
     bool setText(int row, int col, const QString &text);
     /// All rows at once, header included; each is brought to the grid's columns.
     void setAllRows(const QList<GridRow> &rows);
+    /// Lets `change` write the rows themselves, the fast way to change many; rows keep their
+    /// columns, and the header stays. Colours stay where they are. Raises one `reset`.
+    void rewrite(const std::function<void(QList<GridRow> &rows)> &change);
     /// Before row `at`; colours move along.
     void insertRow(int at, const GridRow &cells = {});
     void removeRow(int at);
@@ -56,6 +61,10 @@ public:
     void setTopRow(int row);
     void setCellColor(int row, int col, Color color);
     void clearCellColors();
+    /// The cells with a colour of their own; shared until written.
+    using Colors = QHash<QPair<int, int>, Color>;
+    [[nodiscard]] const Colors &allColors() const { return m_colors; }
+    void setAllColors(const Colors &colors);
 
     /// Act: the user moves the current cell, which never comes to the header.
     void moveTo(int row, int col);
@@ -100,7 +109,7 @@ private:
     int m_topRow = 1;
     int m_mouseRow = 0;
     int m_batches = 0;
-    QHash<QPair<int, int>, Color> m_colors;
+    Colors m_colors;
 };
 
 } // namespace kavro

@@ -9,7 +9,7 @@ int TreeView::add(int parent, const QString &text, const QString &key)
         return noNode;
     }
     const int number = static_cast<int>(m_nodes.size());
-    m_nodes.append({.key = key, .text = text, .parent = parent, .children = {}});
+    m_nodes.append({.key = key, .text = text, .parent = parent, .children = {}, .expanded = false});
     if (parent == noNode) {
         m_roots.append(number);
     } else {
@@ -18,7 +18,9 @@ int TreeView::add(int parent, const QString &text, const QString &key)
     if (!key.isNull()) {
         m_byKey.insert(folded, number);
     }
-    emit added(number);
+    if (m_batches == 0) {
+        emit added(number);
+    }
     return number;
 }
 
@@ -50,7 +52,19 @@ void TreeView::setText(int number, const QString &text)
 {
     if (has(number) && m_nodes.at(number).text != text) {
         m_nodes[number].text = text;
-        emit textChanged(number);
+        if (m_batches == 0) {
+            emit textChanged(number);
+        }
+    }
+}
+
+void TreeView::expand(int number)
+{
+    if (has(number) && !m_nodes.at(number).expanded) {
+        m_nodes[number].expanded = true;
+        if (m_batches == 0) {
+            emit expanded(number);
+        }
     }
 }
 
@@ -63,7 +77,8 @@ void TreeView::forget(int number)
     if (!gone.key.isNull()) {
         m_byKey.remove(gone.key.toLower());
     }
-    m_nodes[number] = {.key = {}, .text = {}, .parent = goneNode, .children = {}};
+    m_nodes[number] = {
+        .key = {}, .text = {}, .parent = goneNode, .children = {}, .expanded = false};
 }
 
 void TreeView::remove(int number)
@@ -91,7 +106,9 @@ void TreeView::tellLoss()
     if (selectionLost) {
         m_selected = noNode;
     }
-    emit reset();
+    if (m_batches == 0) {
+        emit reset();
+    }
     if (selectionLost) {
         emit selectedChanged(noNode);
     }
@@ -110,6 +127,18 @@ void TreeView::click(int number)
     if (has(number)) {
         setSelected(number);
         emit clicked(number);
+    }
+}
+
+TreeView::Batch::Batch(TreeView &tree) : m_tree(tree)
+{
+    ++m_tree.m_batches;
+}
+
+TreeView::Batch::~Batch()
+{
+    if (--m_tree.m_batches == 0) {
+        emit m_tree.reset();
     }
 }
 

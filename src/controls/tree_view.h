@@ -23,6 +23,7 @@ public:
         QString text;
         int parent = noNode;
         QList<int> children;
+        bool expanded = false; ///< by the program; a user opens and closes it in the view
     };
 
     /// Adds a node as its parent's last child, or as a root under `noNode`. Returns its number,
@@ -40,6 +41,8 @@ public:
     [[nodiscard]] const QList<int> &roots() const { return m_roots; }
     /// Nothing for a node that isn't there, as in the functions below.
     void setText(int number, const QString &text);
+    /// Opens a node, so that what is below it shows.
+    void expand(int number);
     /// Takes a node and all below it away.
     void remove(int number);
     void clear();
@@ -50,10 +53,23 @@ public:
     /// Act: the user clicks a node.
     void click(int number);
 
+    /// While one lives nodes come and go in silence; the last one's end raises one `reset`.
+    class Batch
+    {
+    public:
+        explicit Batch(TreeView &tree);
+        ~Batch();
+        Q_DISABLE_COPY_MOVE(Batch)
+
+    private:
+        TreeView &m_tree;
+    };
+
 signals:
     void added(int number);
     void textChanged(int number);
-    /// Nodes went away.
+    void expanded(int number);
+    /// Nodes went away, or anything may be different.
     void reset();
     void selectedChanged(int number);
     void clicked(int number);
@@ -68,6 +84,7 @@ private:
     QList<int> m_roots;
     QHash<QString, int> m_byKey; ///< keys in lower case
     int m_selected = noNode;
+    int m_batches = 0;
 };
 
 } // namespace kavro

@@ -10,6 +10,9 @@ struct ClipboardPanel
 {
     explicit ClipboardPanel(Form &frmMain);
 
+    /// Adds an item at the end of the list, selects it and enables the buttons.
+    void add(const QString &item);
+
     ListBox List1; ///< name + ">" + time or text
     /// 0 and 1 copy to the field of the tab that shows; 2 changes, 3 deletes, 4 clears.
     ControlArray<Button, 0, 4> command4;

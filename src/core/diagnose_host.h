@@ -2,7 +2,7 @@
 
 namespace kavro {
 
-/// What has a scan run from elsewhere. This one finds nothing, until a scan exists.
+/// What has a scan run from elsewhere. This one finds nothing.
 class DiagnoseHost
 {
 public:

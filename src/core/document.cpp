@@ -1,5 +1,6 @@
 #include "core/document.h"
 
+#include "controls/form.h"
 #include "core/editor_page.h"
 #include "core/font_lists.h"
 #include "core/language.h"
@@ -44,20 +45,23 @@ bool SubtitleDocument::isSubtitle(int row) const
 
 QString SubtitleDocument::rowErrorText(int row) const
 {
-    const auto index = static_cast<std::size_t>(row);
-    return row >= 0 && index < m_rowErrorText.size() ? m_rowErrorText[index] : QString();
+    return row >= 0 && row < m_rowErrorText.size() ? m_rowErrorText.at(row) : QString();
 }
 
 void SubtitleDocument::setRowErrorText(int row, const QString &text)
 {
-    if (row < 0 || row > maxSubtitles) {
+    if (row < 0 || row > maxSubtitles || (text.isEmpty() && row >= m_rowErrorText.size())) {
         return;
     }
-    const auto index = static_cast<std::size_t>(row);
-    if (index >= m_rowErrorText.size()) {
-        m_rowErrorText.resize(index + 1);
+    if (row >= m_rowErrorText.size()) {
+        m_rowErrorText.resize(row + 1);
     }
-    m_rowErrorText[index] = text;
+    m_rowErrorText[row] = text;
+}
+
+void SubtitleDocument::setRowErrors(const QStringList &texts)
+{
+    m_rowErrorText = texts.mid(0, maxSubtitles + 1);
 }
 
 void SubtitleDocument::clearRowErrors()
@@ -77,6 +81,20 @@ void SubtitleDocument::markEdited()
 {
     setFileChanged(true);
     subtitleChanged = false;
+}
+
+SubtitleDocument::Act::Act(SubtitleDocument &document) : m_document(document)
+{
+    if (m_document.m_acts++ == 0 && m_document.actBegins) {
+        m_document.actBegins();
+    }
+}
+
+SubtitleDocument::Act::~Act()
+{
+    if (--m_document.m_acts == 0 && m_document.actEnded) {
+        m_document.actEnded();
+    }
 }
 
 void SubtitleDocument::fillColumnCaptions()
@@ -129,6 +147,7 @@ void SubtitleDocument::startNew()
     savedFormatId = 0;
     editorBlocked = false;
     RefreshCurrentRow();
+    emit replaced();
 }
 
 void SubtitleDocument::clearFindings()
@@ -136,10 +155,12 @@ void SubtitleDocument::clearFindings()
     clearRowErrors();
     errorCount = 0;
     editor.grdSubEdit.clearCellColors();
+    emit findingsGone();
 }
 
 void SubtitleDocument::BuildPlayerList()
 {
+    const Form::Busy busy(editor.grdSubEdit.form());
     QStringList lines;
     lines.reserve(subtitleCount());
     for (int row = 1; row <= subtitleCount(); ++row) {

@@ -6,10 +6,11 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include <array>
-#include <vector>
+#include <functional>
 
 namespace kavro {
 
@@ -27,6 +28,8 @@ struct Node
     int lastRow = 0;
     QString name;
     bool flag = false;
+
+    bool operator==(const Node &) const = default;
 };
 
 /// The loaded subtitle: the grid of the editor page and the side stores that stay in step with it.
@@ -70,6 +73,10 @@ public:
     [[nodiscard]] QString rowErrorText(int row) const;
     void setRowErrorText(int row, const QString &text);
     void clearRowErrors();
+    /// All findings by row, shared until written; rows behind the end of the list have none.
+    [[nodiscard]] const QStringList &rowErrors() const { return m_rowErrorText; }
+    /// What lies behind the last row that can be is cut off.
+    void setRowErrors(const QStringList &texts);
 
     /// Element 0 stands for the whole document; 1 to nodeCount are the nodes, sorted, without gaps.
     std::array<Node, maxNodes + 1> nodes;
@@ -81,6 +88,21 @@ public:
     void setFileChanged(bool changed);
     /// What every edit does: `fileChanged` set, `subtitleChanged` cleared.
     void markEdited();
+
+    /// One act of the user's that may change the document. Acts nest, and only the outermost
+    /// counts: what a delete, its repairs and their marks do is one step back.
+    class Act
+    {
+    public:
+        explicit Act(SubtitleDocument &document);
+        ~Act();
+        Q_DISABLE_COPY_MOVE(Act)
+
+    private:
+        SubtitleDocument &m_document;
+    };
+    std::function<void()> actBegins; ///< before the outermost act changes anything
+    std::function<void()> actEnded;  ///< when it is done
 
     /// Captions of the columns from the language table; column 0 has none.
     std::array<QString, 6> gridColCaption;
@@ -97,6 +119,8 @@ public:
     /// Shows the current row in the panels; runs at each change of the current cell, and does
     /// nothing while `editorBlocked`.
     void RefreshCurrentRow();
+    /// Hides the panel of the current row's finding, or shows it again; nothing without a finding.
+    void toggleFinding();
     /// Shows one line of the current row in preview line `index`, 0 to 2, trimmed on the left and
     /// in the style of row `curRow`, and selects that row's font and style in their lists.
     void subShowSubtitle(const QString &text, int index);
@@ -105,6 +129,11 @@ public:
     /// Paints the marks of all nodes by row and column, then sets the grid's top row. A node that
     /// begins behind the end of the grid becomes the last one; marks stand on subtitles alone.
     void ShowNodeMarks(int topRow);
+    /// Starts a node at `row`, which ends the one before there; where one starts already, the two
+    /// are joined instead. Names stay with their rows, so that two nodes may come to have like
+    /// ones. Element 0 stands before node 1 and takes or gives rows as any other does. False, with
+    /// nothing changed, when there is no such row or no number left for a node.
+    [[nodiscard]] bool toggleNode(int row);
     /// The cells of every node back to plain numbers and no colour.
     void clearNodeMarks();
     /// The font entry of a row; empty for a row without one.
@@ -125,6 +154,10 @@ signals:
     void fileChangedChanged(bool changed);
     /// `subFileName` is another one.
     void nameChanged();
+    /// A plain load or a new document put another document in the place of this one.
+    void replaced();
+    /// The findings of the last scan went away with the lines that they were about.
+    void findingsGone();
 
 private:
     void connectGrid();
@@ -147,6 +180,10 @@ private:
     void hideCellTools();
     [[nodiscard]] bool isCellTool(const Control *control) const;
 
+    void startNode(std::size_t number, int row);
+    void joinNode(std::size_t number);
+    void unmarkFirstRow(int row);
+    void unmarkLastRow(int row);
     void markNode(const Node &node);
     [[nodiscard]] bool isSubtitle(int row) const;
 
@@ -154,7 +191,8 @@ private:
     const LanguageTable &m_language;
     ActionTrace &m_trace;
     bool m_fileChanged = false;
-    std::vector<QString> m_rowErrorText;
+    int m_acts = 0;
+    QStringList m_rowErrorText;
 };
 
 } // namespace kavro

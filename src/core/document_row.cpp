@@ -148,6 +148,15 @@ void SubtitleDocument::showFinding()
     editor.errExp.setVisible(!text.isEmpty());
 }
 
+void SubtitleDocument::toggleFinding()
+{
+    if (editor.errExp.isVisible()) {
+        editor.errExp.setVisible(false);
+    } else {
+        showFinding();
+    }
+}
+
 void SubtitleDocument::showCellTools()
 {
     const Grid &grid = editor.grdSubEdit;

@@ -39,6 +39,7 @@ constexpr std::array folderPaths = {
     FolderPath{Folder::MacroExport, u"Data/Macro/Export"},
     FolderPath{Folder::Calculator, u"Data/Calculator"},
     FolderPath{Folder::Sounds, u"Systemtem/Sounds"}, // spelled so since the first version
+    FolderPath{Folder::Recovery, u"System/Recovery"},
     FolderPath{Folder::DriveRoot, u"Data/Drive"},
 };
 
@@ -208,7 +209,7 @@ void Folders::lockTemporary()
     }
 }
 
-void Folders::removeFiles(const QString &folder)
+void Folders::removeAllFiles(const QString &folder)
 {
     for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::Hidden)) {
         if (name != lockName)
@@ -219,7 +220,7 @@ void Folders::removeFiles(const QString &folder)
 void Folders::clearTemporary()
 {
     const QString folder = path(Folder::Temporary);
-    removeFiles(folder);
+    removeAllFiles(folder);
     if (!m_runFolder.isEmpty())
         return;
     for (const QStringView name : driveFiles)
@@ -229,7 +230,7 @@ void Folders::clearTemporary()
         auto left = tryLock(folder + u'/' + name);
         if (!left)
             continue;
-        removeFiles(folder + u'/' + name);
+        removeAllFiles(folder + u'/' + name);
         left.reset();
         QDir().rmdir(folder + u'/' + name);
     }
@@ -254,6 +255,9 @@ QString Folders::place(const QString &root, Folder folder, QStringView name) con
     QString path = matchName(root, pathOf(folder));
     if (folder == Folder::Temporary && !m_runFolder.isEmpty())
         path += u'/' + m_runFolder;
+    // Thousands of snapshots may stand there, all named by this program: no look through them.
+    if (folder == Folder::Temporary && !name.isEmpty())
+        return path + u'/' + name.toString();
     return matchName(path, name);
 }
 
@@ -299,6 +303,12 @@ QStringList Folders::files(Folder folder, QStringView patterns) const
     }
     names.sort(Qt::CaseInsensitive);
     return names;
+}
+
+void Folders::removeFiles(Folder folder, QStringView patterns)
+{
+    for (const QString &name : filesIn(writablePath(folder), patterns))
+        m_store.remove(writablePath(folder, name));
 }
 
 } // namespace kavro

@@ -31,6 +31,7 @@ enum class Folder {
     MacroExport,
     Calculator,
     Sounds,
+    Recovery,  ///< unsaved changes, kept for a start after a kill
     DriveRoot, ///< the work files of the online exchange
 };
 
@@ -90,6 +91,10 @@ public:
     /// case, sorted without regard to case.
     [[nodiscard]] QStringList files(Folder folder, QStringView patterns) const;
 
+    /// Deletes the files of a folder that match one of the patterns. Where the shipped folder is
+    /// only read, its files stay.
+    void removeFiles(Folder folder, QStringView patterns);
+
     /// Where the program's own files are shipped; empty when they were not found.
     [[nodiscard]] const QString &shipped() const { return m_shipped; }
 
@@ -98,7 +103,7 @@ private:
     FileStatus fill();
     void lockTemporary();
     void clearTemporary();
-    void removeFiles(const QString &folder);
+    void removeAllFiles(const QString &folder);
     [[nodiscard]] QString place(const QString &root, Folder folder, QStringView name) const;
     [[nodiscard]] bool hasPrivatePlace() const { return m_root != m_written; }
 

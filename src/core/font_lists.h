@@ -16,6 +16,7 @@ struct FontLists
 
     /// 0: names of the screen's fonts; 1: regular, bold, italic, bold italic.
     std::array<DropList, 2> Combo9;
+    ControlArray<Label, 0, 1> lblFont; ///< name the lists
     ControlArray<Label, 0, 1> Label48; ///< whether the format keeps the font, the style
     Button Command42;                  ///< gives the current line the font
 

@@ -70,6 +70,8 @@ constexpr DefaultText texts[] = {
     {Common, 39, u"Ready"},
     {Common, 40, u"Error loading languagefile."},
     {Common, 41, u"Language file error"},
+    {Common, 42, u"Not found:"},
+    {Common, 43, u"Matches:"},
 
     {User, 0, u"Please enter a Nickname before connecting."},
     {User, 1, u"Failed to load copy file."},

@@ -14,6 +14,8 @@ struct MainMenu
     Button mnuReopen; ///< reads the file again in another encoding
     Button mnuDBManage, mnuPrint, mnuExit;
     Button mnuUndo, mnuRedo, mnuGotoLine, mnuNextFinding, mnuPreviousFinding;
+    Button mnuSearch, mnuReplace; ///< lead to the search page
+    Button mnuSearchAgain;        ///< goes on with the search
     Button mnuPreview;
     Button mnuSettings, mnuSystem, mnuHistory;
     Button mnuWizard;

@@ -57,12 +57,15 @@ Answer Messages::ShowMessage(const MessageText &text, Answer defaultButton, cons
                              const QString &title, bool showInput)
 {
     m_trace.RecordAction({}, 30);
+    const auto translated = [this](const QString &own) {
+        return inLanguage ? inLanguage(own) : own;
+    };
     // Line breaks come first: the value of a variable may be a path with a folder "/n...".
-    QString pattern = expandLineBreaks(text.pattern);
+    QString pattern = expandLineBreaks(translated(text.pattern));
     if (expandVariables) {
         pattern = expandVariables(pattern);
     }
-    const Message message{.title = title,
+    const Message message{.title = translated(title),
                           .text = putIn(pattern, text.arguments),
                           .kind = kind.toLower(),
                           .defaultButton = defaultButton,

@@ -47,6 +47,8 @@ public:
     /// The last answer.
     Answer msgResult = Answer::Cancel;
 
+    /// A text of the program in the person's language; set by the language packs.
+    std::function<QString(const QString &)> inLanguage;
     /// Replaces the variables in a text by their values; set by the macro system.
     std::function<QString(const QString &)> expandVariables;
     /// Called when a variable was entered in the window.

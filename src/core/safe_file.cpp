@@ -194,12 +194,19 @@ bool FileWriter::openAs(const QString &path, QIODevice::OpenMode mode)
     return false;
 }
 
+// In pieces, so that a long text isn't held once more; a surrogate pair stays in one piece.
 bool FileWriter::write(QStringView text)
 {
-    if (!m_status.ok())
-        return false;
-    std::copy_n(text.data(), text.size(), makeRoom(text.size()));
-    return m_used < flushLength || flush();
+    while (m_status.ok() && !text.isEmpty()) {
+        qsizetype length = std::min<qsizetype>(text.size(), flushLength);
+        if (length < text.size() && text[length - 1].isHighSurrogate())
+            ++length;
+        std::copy_n(text.data(), length, makeRoom(length));
+        text = text.sliced(length);
+        if (m_used >= flushLength)
+            flush();
+    }
+    return m_status.ok();
 }
 
 bool FileWriter::writeLine(QStringView line)

@@ -1,5 +1,7 @@
 #include "core/settings_page.h"
 
+#include "core/text.h"
+
 namespace kavro {
 
 using namespace Qt::StringLiterals;
@@ -28,7 +30,13 @@ SettingsPage::SettingsPage(Form &frmSettings)
                         u"Greek (161)"_s, u"Turkish (162)"_s, u"Baltic (186)"_s,
                         u"Cyrillic (204)"_s, u"Central European (238)"_s, u"Hebrew (177)"_s,
                         u"Arabic (178)"_s});
+    cmbScript.setSelected(0);
     cmbScript.setAvailable(false);
+}
+
+int SettingsPage::characterSetOf(QStringView entry)
+{
+    return intVal(Mid(entry, InStr(entry, u"(") + 1));
 }
 
 } // namespace kavro

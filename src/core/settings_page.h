@@ -25,6 +25,9 @@ struct SettingsPage
     DropList Combo2;                     ///< default frame rate
     DropList cmbScript; ///< writing system, and code page of files that are not Unicode
 
+    /// Number of the character set of an entry: "Greek (161)" and a typed "161" name the same.
+    static int characterSetOf(QStringView entry);
+
     QString languageFile;         ///< path of the chosen pack, empty for none
     bool languageChanged = false; ///< another pack was chosen; it counts from the next start
 

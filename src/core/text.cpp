@@ -76,7 +76,10 @@ QString placedDigits(double value)
 
     const QStringView all(digits.data(), count);
     const qsizetype whole = exponent + 1; // digits ahead of the point
-    QString placed = negative ? u"-"_s : QString();
+    QString placed;
+    placed.reserve(std::max(count, whole) + std::max<qsizetype>(-whole, 0) + 3);
+    if (negative)
+        placed.append(u'-');
     if (whole <= 0)
         placed.append(u"0.").append(QString(-whole, u'0')).append(all);
     else if (whole >= count)
@@ -175,6 +178,26 @@ qsizetype InStr(qsizetype start, QStringView text, QStringView what)
     return text.indexOf(what, std::max<qsizetype>(start - 1, 0)) + 1;
 }
 
+QString lowerCase(QStringView text)
+{
+    constexpr QChar dottedI(0x0130); // the one letter whose small form is more than one character
+    QString lower(text.size(), Qt::Uninitialized);
+    QChar *to = lower.data();
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const QChar c = text[at];
+        if (c.unicode() < 0x80) {
+            *to++ = c >= u'A' && c <= u'Z' ? QChar(c.unicode() | 0x20) : c;
+        } else if (c.isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate()) {
+            const char32_t pair = QChar::toLower(QChar::surrogateToUcs4(c, text[++at]));
+            *to++ = QChar(QChar::highSurrogate(pair));
+            *to++ = QChar(QChar::lowSurrogate(pair));
+        } else {
+            *to++ = c == dottedI ? QChar(u'i') : c.toLower();
+        }
+    }
+    return lower;
+}
+
 QString expandLineBreaks(QStringView text)
 {
     return text.toString().replace("/n"_L1, "\r\n"_L1);
@@ -186,19 +209,26 @@ double cutToWhole(double value)
     return std::abs(value - nearest) <= 1e-9 ? nearest : std::floor(value);
 }
 
-QString secondsText(double seconds)
+double cutToThousandths(double seconds)
 {
     constexpr double greatest = 1e12;
     if (!(seconds > 0))
-        return u"0.000"_s;
+        return 0;
     const double thousandths = std::min(seconds, greatest) * 1000;
     const double nearest = std::round(thousandths);
     // The tolerance is one of the seconds: in thousandths it is a thousand times as wide.
-    const double cut = std::abs(thousandths - nearest) <= 1e-6 ? nearest : std::floor(thousandths);
-    QString digits = QString::number(static_cast<qint64>(cut));
-    if (digits.size() < 4)
-        digits = digits.rightJustified(4, u'0');
-    return digits.insert(digits.size() - 3, u'.');
+    return std::abs(thousandths - nearest) <= 1e-6 ? nearest : std::floor(thousandths);
+}
+
+QString secondsText(double seconds)
+{
+    const auto thousandths = static_cast<qint64>(cutToThousandths(seconds));
+    std::array<char, 24> buffer{};
+    char *at = std::to_chars(buffer.data(), buffer.data() + 20, thousandths / 1000).ptr;
+    *at++ = '.';
+    for (const qint64 digit : {thousandths / 100 % 10, thousandths / 10 % 10, thousandths % 10})
+        *at++ = static_cast<char>('0' + digit);
+    return QString::fromLatin1(buffer.data(), at - buffer.data());
 }
 
 } // namespace kavro

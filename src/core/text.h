@@ -42,6 +42,9 @@ QStringView Right(QStringView text, qsizetype length);
 qsizetype InStr(QStringView text, QStringView what);
 qsizetype InStr(qsizetype start, QStringView text, QStringView what);
 
+/// The text in lower case, unit for unit: a position in it is the same position in `text`.
+QString lowerCase(QStringView text);
+
 /// `text` with each "/n" turned into carriage return and line feed.
 QString expandLineBreaks(QStringView text);
 
@@ -49,8 +52,12 @@ QString expandLineBreaks(QStringView text);
 /// that number, so that the error of a division never costs a frame.
 double cutToWhole(double value);
 
-/// Seconds as text with exactly three decimals, cut and never rounded, as `SecondsToTimeCode` takes
-/// it. A value within 1e-9 of a whole millisecond is that millisecond. Values below 0 give "0.000".
+/// The whole thousandths of `seconds`: cut, but a value within 1e-9 of a whole millisecond is that
+/// millisecond. Values below 0 give 0.
+double cutToThousandths(double seconds);
+
+/// Seconds as text with exactly three decimals, cut as `cutToThousandths` does it, as
+/// `SecondsToTimeCode` takes it.
 QString secondsText(double seconds);
 
 } // namespace kavro

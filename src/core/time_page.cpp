@@ -10,6 +10,9 @@ TimePage::TimePage(Form &frmMain)
       rtfStretchLast(frmMain, u"rtfStretchLast"_s),
       rtfTimeStart(frmMain, u"rtfTimeStart"_s),
       rtfTimeEnd(frmMain, u"rtfTimeEnd"_s)
-{}
+{
+    rtfStretchFirst.setText(u"00:00:00,000"_s);
+    rtfStretchLast.setText(u"00:00:00,000"_s);
+}
 
 } // namespace kavro

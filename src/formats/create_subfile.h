@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/encoding.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -48,6 +50,12 @@ struct WriteResult
     int rowsLeft = 0;
     QStringList losses; ///< what the format can't hold of the rows written, a line each
 };
+
+/// What previews are written in, whatever the document's encoding is: it holds every text.
+[[nodiscard]] inline TextEncoding previewEncoding()
+{
+    return {};
+}
 
 /// The one writer of subtitle files.
 ///

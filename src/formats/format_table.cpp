@@ -19,28 +19,32 @@ constexpr auto hundredths = TimeKept::Hundredths;
 constexpr auto tenths = TimeKept::Tenths;
 constexpr auto seconds = TimeKept::Seconds;
 constexpr auto frames = TimeKept::Frames;
+constexpr auto inSecond = TimeKept::FramesInSecond;
+constexpr auto two = HoursKept::TwoCharacters;
+constexpr auto one = HoursKept::OneDigit;
+constexpr auto counted = HoursKept::Counted;
 constexpr auto none = FontSupport::None;
 constexpr auto perLine = FontSupport::StylePerLine;
 constexpr auto perFile = FontSupport::FontPerFile;
 
 // clang-format off
 constexpr std::array<FormatInfo, formatCount> formats{{
-    {DvdSubtitle,     u"DVD Subtitle",         u".sub", u"hundredths of a second", hundredths, 2, none,    dvdSubtitleFormat},
-    {JacoSub,         u"JACOSub 2.7+",         u".jss", u"hundredths of a second", hundredths, 1, perLine, jacoSubFormat},
-    {MicroDvd,        u"MicroDVD",             u".sub", u"frames",                 frames,     2, none,    microDvdFormat},
-    {Phoenix,         u"Phoenix Japanimation", u".pjs", u"frames",                 frames,     2, none,    phoenixFormat},
-    {PowerDivX,       u"PowerDivX",            u".psb", u"whole seconds",          seconds,    2, none,    powerDivXFormat},
-    {RealTime,        u"RealTime",             u".rt",  u"hundredths of a second", hundredths, 1, none,    realTimeFormat},
-    {Sami,            u"SAMI",                 u".smi", u"milliseconds",           ms,         2, none,    samiFormat},
-    {SonicDvd,        u"Sonic DVD",            u".sub", u"seconds and frames",     hundredths, 2, none,    sonicDvdFormat},
-    {SubRip,          u"SubRip",               u".srt", u"milliseconds",           ms,         2, perLine, subRipFormat},
-    {SubStationAlpha, u"SubStation Alpha",     u".ssa", u"hundredths of a second", hundredths, 1, none,    subStationAlphaFormat},
-    {SubViewer1,      u"SubViewer 1.0",        u".sub", u"whole seconds",          seconds,    2, none,    subViewer1Format},
-    {SubViewer2,      u"SubViewer 2.0",        u".sub", u"hundredths of a second", hundredths, 2, perFile, subViewer2Format},
-    {TmPlayer,        u"TMPlayer",             u".txt", u"tenths of a second",     tenths,     2, none,    tmPlayerFormat},
-    {TurboTitler,     u"Turbo Titler",         u".tts", u"hundredths of a second", hundredths, 1, none,    turboTitlerFormat},
-    {ViPlay,          u"ViPlay Subtitle File", u".vsf", u"milliseconds",           ms,         2, none,    viPlayFormat},
-    {ZeroG,           u"Zero G",               u".zeg", u"hundredths of a second", hundredths, 1, none,    zeroGFormat},
+    {DvdSubtitle,     u"DVD Subtitle",         u".sub", u"hundredths of a second", hundredths, two,     none,    dvdSubtitleFormat},
+    {JacoSub,         u"JACOSub 2.7+",         u".jss", u"hundredths of a second", hundredths, one,     perLine, jacoSubFormat},
+    {MicroDvd,        u"MicroDVD",             u".sub", u"frames",                 frames,     counted, none,    microDvdFormat},
+    {Phoenix,         u"Phoenix Japanimation", u".pjs", u"frames",                 frames,     counted, none,    phoenixFormat},
+    {PowerDivX,       u"PowerDivX",            u".psb", u"whole seconds",          seconds,    two,     none,    powerDivXFormat},
+    {RealTime,        u"RealTime",             u".rt",  u"hundredths of a second", hundredths, one,     none,    realTimeFormat},
+    {Sami,            u"SAMI",                 u".smi", u"milliseconds",           ms,         counted, none,    samiFormat},
+    {SonicDvd,        u"Sonic DVD",            u".sub", u"seconds and frames",     inSecond,   two,     none,    sonicDvdFormat},
+    {SubRip,          u"SubRip",               u".srt", u"milliseconds",           ms,         two,     perLine, subRipFormat},
+    {SubStationAlpha, u"SubStation Alpha",     u".ssa", u"hundredths of a second", hundredths, one,     none,    subStationAlphaFormat},
+    {SubViewer1,      u"SubViewer 1.0",        u".sub", u"whole seconds",          seconds,    two,     none,    subViewer1Format},
+    {SubViewer2,      u"SubViewer 2.0",        u".sub", u"hundredths of a second", hundredths, two,     perFile, subViewer2Format},
+    {TmPlayer,        u"TMPlayer",             u".txt", u"tenths of a second",     tenths,     two,     none,    tmPlayerFormat},
+    {TurboTitler,     u"Turbo Titler",         u".tts", u"hundredths of a second", hundredths, one,     none,    turboTitlerFormat},
+    {ViPlay,          u"ViPlay Subtitle File", u".vsf", u"milliseconds",           ms,         two,     none,    viPlayFormat},
+    {ZeroG,           u"Zero G",               u".zeg", u"hundredths of a second", hundredths, one,     none,    zeroGFormat},
 }};
 // clang-format on
 

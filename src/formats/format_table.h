@@ -37,7 +37,14 @@ constexpr int formatCount = 16;
 enum class FontSupport { None, StylePerLine, FontPerFile };
 
 /// How exactly a file of the format holds a time.
-enum class TimeKept { Milliseconds, Hundredths, Tenths, Seconds, Frames };
+enum class TimeKept { Milliseconds, Hundredths, Tenths, Seconds, Frames, FramesInSecond };
+
+/// What a file of the format has room for ahead of the minutes.
+enum class HoursKept {
+    TwoCharacters, ///< a minus sign takes the place of the tens
+    OneDigit,
+    Counted ///< a time is one number, which is never read as a time before zero
+};
 
 struct FormatInfo
 {
@@ -46,7 +53,7 @@ struct FormatInfo
     QStringView extension; ///< with its point, as `SetSubFileExt` gives it
     QStringView timeBase;  ///< what a time in the file counts
     TimeKept timeKept;
-    int hourDigits; ///< that a file of the format has room for, 1 or 2
+    HoursKept hours;
     FontSupport fonts;
     /// The reader and writer.
     const SubtitleFormat *(*implementation)();

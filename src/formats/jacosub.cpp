@@ -57,7 +57,7 @@ public:
             inHeader = inHeader && (line.isEmpty() || line.startsWith(u'#'));
             if (inHeader)
                 ++count.headerLines;
-            if (line.contains(u"{ntp}", Qt::CaseInsensitive))
+            if (indexOfTag(line, u"{ntp}") >= 0)
                 ++count.subtitles;
         }
         return count;
@@ -87,9 +87,9 @@ public:
     /// The marks stand round the whole text, the italic ones outside.
     void writeRow(WriteFrame &frame) const override
     {
-        frame.put(oneHourDigitTime(frame.start()));
+        putOneHourDigitTime(frame, frame.start());
         frame.put(u" ");
-        frame.put(oneHourDigitTime(frame.end()));
+        putOneHourDigitTime(frame, frame.end());
         frame.put(u" {NTP} ");
         frame.put(frame.isItalic() ? u"\\I" : u"");
         frame.put(frame.isBold() ? u"\\B" : u"");

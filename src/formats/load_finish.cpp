@@ -1,8 +1,8 @@
 #include "core/control_window.h"
 #include "core/document.h"
 #include "core/editor_page.h"
-#include "core/font_lists.h"
 #include "core/format_lists.h"
+#include "core/kept_document.h"
 #include "core/language.h"
 #include "core/messages.h"
 #include "core/player_page.h"
@@ -10,7 +10,10 @@
 #include "formats/load_run.h"
 #include "formats/node_file.h"
 
+#include <QFileInfo>
 #include <QStringBuilder>
+
+#include <algorithm>
 
 // The end of a load: the document becomes what was read, and what shows it follows.
 
@@ -31,6 +34,41 @@ void LoadRun::replaceDocument(ReadFrame &frame)
     }
     m_parts.host.EnableDocumentCommands();
     showDocument();
+}
+
+void LoadRun::bringBack(const KeptDocument &kept)
+{
+    m_format = kept.formatId;
+    m_parts.document.editorBlocked = true;
+    {
+        const Grid::Batch batch(m_parts.document.editor.grdSubEdit);
+        if (m_format != UnknownFormat)
+            selectFormat();
+        m_parts.host.setFileName(m_request.path, m_format);
+        clearDocument();
+        takeKept(kept);
+        m_parts.document.ShowNodeMarks(1);
+    }
+    m_parts.document.markEdited();
+    m_parts.host.EnableDocumentCommands();
+    showDocument();
+    if (QFileInfo::exists(m_request.path))
+        m_parts.host.addRecent(m_request.path);
+}
+
+void LoadRun::takeKept(const KeptDocument &kept)
+{
+    SubtitleDocument &document = m_parts.document;
+    document.encoding = kept.encoding;
+    document.savedPath = kept.savedPath;
+    document.savedFormatId = kept.savedFormatId;
+    document.curFontName = kept.fontName;
+    document.editor.grdSubEdit.setAllRows(kept.rows);
+    document.editor.lstFont.setItems(kept.fonts);
+    document.nodes.fill({});
+    std::ranges::copy(kept.nodes, document.nodes.begin());
+    document.nodeCount = static_cast<int>(kept.nodes.size()) - 1;
+    document.curNode = kept.curNode;
 }
 
 // A plain load meets the limit when it has put the old document away already; an added file leaves
@@ -71,22 +109,7 @@ void LoadRun::selectFormat()
     if (m_firstRow > 1 && document.curFormatId != m_format)
         document.savedPath.clear();
     document.curFormatId = m_format;
-    m_parts.lists.combo3.setSelected(m_format - 1);
-    m_parts.lists.Combo7.setSelected(m_format);
-    switchFontControls();
-}
-
-void LoadRun::switchFontControls()
-{
-    FontLists &fonts = m_parts.document.fonts;
-    const FontSupport support = formatInfo(m_format)->fonts;
-    const bool style = support == FontSupport::StylePerLine;
-    const bool font = support == FontSupport::FontPerFile;
-    fonts.Command42.setEnabled(style);
-    fonts.Combo9[0].setAvailable(font);
-    fonts.Combo9[1].setAvailable(style);
-    fonts.Label48[0].setCaption(report(font ? 20 : 19));
-    fonts.Label48[1].setCaption(report(style ? 20 : 19));
+    SubtitleLoader(m_parts).showFormat(m_format);
 }
 
 void LoadRun::clearDocument()
@@ -147,6 +170,8 @@ void LoadRun::showDocument()
     document.editorBlocked = false;
     document.RefreshCurrentRow();
     m_parts.host.documentLoaded();
+    if (m_firstRow == 1)
+        emit document.replaced();
 }
 
 void LoadRun::fillPlayerList()

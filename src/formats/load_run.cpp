@@ -1,5 +1,6 @@
 #include "formats/load_run.h"
 
+#include "controls/form.h"
 #include "core/control_window.h"
 #include "core/document.h"
 #include "core/encoding.h"
@@ -38,6 +39,7 @@ LoadResult LoadRun::run()
     m_parts.document.player.timPlayer.setOn(false);
     // Events that wait are not served here: one that closed the program or loaded another file
     // would find a load half done.
+    const Form::Busy busy(m_parts.document.editor.grdSubEdit.form());
     LoadResult result = load();
     m_parts.control.ProgressBar1.setValue(0);
     if (m_request.showLog) {
@@ -87,9 +89,8 @@ ReadOptions LoadRun::readOptions() const
     ReadOptions options = m_request.encoding;
     const SettingsPage &settings = m_parts.settings;
     if (options.codePage.isEmpty() && settings.Check6[0].isOn()) {
-        // "Greek (161)": the number of the character set stands in the entry.
-        const QString entry = settings.cmbScript.selectedText();
-        options.codePage = codePageOfCharacterSet(intVal(Mid(entry, InStr(entry, u"(") + 1)));
+        options.codePage =
+            codePageOfCharacterSet(SettingsPage::characterSetOf(settings.cmbScript.selectedText()));
     }
     return options;
 }

@@ -16,6 +16,7 @@ public:
     LoadRun(const SubtitleLoader::Parts &parts, LoadRequest &request);
 
     LoadResult run();
+    void bringBack(const KeptDocument &kept);
 
 private:
     using Kind = LoadResult::Kind;
@@ -50,9 +51,9 @@ private:
     // The end: the document becomes what was read.
 
     void replaceDocument(ReadFrame &frame);
+    void takeKept(const KeptDocument &kept);
     void nameDocument();
     void selectFormat();
-    void switchFontControls();
     void clearDocument();
     void fill(ReadFrame &frame);
     void setNodes();

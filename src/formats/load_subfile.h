@@ -16,6 +16,7 @@ class SubtitleDocument;
 class Clock;
 class NodeFile;
 struct FormatLists;
+struct KeptDocument;
 struct MainMenu;
 struct SettingsPage;
 
@@ -101,6 +102,14 @@ public:
     /// Reads a file into the document. A file with a fault leaves the document as it was, but for
     /// the limit, which is met when the old document is already gone.
     LoadResult LoadSubFile(LoadRequest &request);
+
+    /// Makes a kept document the one at work, as a plain load of its file would, with its changes
+    /// unsaved. No file is touched, nothing is asked.
+    void bringBack(const KeptDocument &kept);
+
+    /// Selects a format, 1 to 16, in the lists and switches what it can hold of fonts, as a load
+    /// does.
+    void showFormat(int format);
 
 private:
     Parts m_parts;

@@ -1,11 +1,15 @@
 #include "formats/losses.h"
 
 #include "core/text.h"
+#include "core/timecode.h"
 #include "formats/format_table.h"
 #include "formats/positions.h"
 #include "formats/write_frame.h"
 
 #include <QStringBuilder>
+
+#include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -13,49 +17,67 @@ namespace kavro {
 
 namespace {
 
-/// Digits of the milliseconds that the file has no place for.
-int digitsLost(TimeKept kept)
+bool isNegative(QStringView code)
 {
-    switch (kept) {
-    case TimeKept::Milliseconds: return 0;
-    case TimeKept::Hundredths: return 1;
-    case TimeKept::Tenths: return 2;
-    case TimeKept::Seconds: return 3;
-    case TimeKept::Frames: return 0;
-    }
-    return 0;
+    return code.startsWith(u'-');
 }
 
-bool hasLongHours(const QString &code, int digits)
+bool isZero(QStringView digits)
 {
-    return digits == 1 && !code.startsWith(u'0');
+    return std::ranges::all_of(digits, [](QChar digit) { return digit == u'0'; });
+}
+
+bool isFrame(QStringView code, double frameRate)
+{
+    return cutToThousandths(frameOfTime(code, frameRate) / frameRate) == TimeCodeToMs(code);
+}
+
+/// True for frames that are read as they were written: whole, and two digits or none at all.
+bool isFrameInSecond(QStringView code, double frameRate)
+{
+    if (!isZero(Right(code, 1))) {
+        return false;
+    }
+    const double frames = framesInSecond(code, frameRate);
+    const bool whole = std::abs(frames - std::round(frames)) <= 1e-9;
+    return whole && (frames < 0.5 || frames > 9.5);
 }
 
 } // namespace
 
 void Losses::add(const WriteFrame &frame)
 {
+    const QString &start = frame.start();
+    const QString &end = frame.end();
     const double rate = frame.frameRate();
-    if (!keepsTime(frame.start(), rate) || !keepsTime(frame.end(), rate))
-        ++m_milliseconds;
-    if (hasLongHours(frame.start(), m_format.hourDigits)
-        || hasLongHours(frame.end(), m_format.hourDigits))
-        ++m_hours;
-    if (frame.hasTextBehindGap())
-        ++m_texts;
-    if (m_format.fonts != FontSupport::StylePerLine && (frame.isBold() || frame.isItalic()))
-        ++m_styles;
+    m_signs += losesSign(start) || losesSign(end);
+    m_hours += losesHours(start) || losesHours(end);
+    m_milliseconds += losesMilliseconds(start, rate) || losesMilliseconds(end, rate);
+    m_texts += frame.hasTextBehindGap();
+    m_styles += m_format.fonts != FontSupport::StylePerLine && (frame.isBold() || frame.isItalic());
 }
 
-bool Losses::keepsTime(const QString &code, double frameRate) const
+bool Losses::losesSign(QStringView code) const
 {
-    if (m_format.timeKept == TimeKept::Frames)
-        return timeOfFrame(frameOfTime(code, frameRate), frameRate) == code;
-    for (const QChar digit : Right(code, digitsLost(m_format.timeKept))) {
-        if (digit != u'0')
-            return false;
+    return m_format.hours != HoursKept::TwoCharacters && isNegative(code);
+}
+
+bool Losses::losesHours(QStringView code) const
+{
+    return m_format.hours == HoursKept::OneDigit && !isNegative(code) && !code.startsWith(u'0');
+}
+
+bool Losses::losesMilliseconds(QStringView code, double frameRate) const
+{
+    switch (m_format.timeKept) {
+    case TimeKept::Milliseconds: return false;
+    case TimeKept::Hundredths: return !isZero(Right(code, 1));
+    case TimeKept::Tenths: return !isZero(Right(code, 2));
+    case TimeKept::Seconds: return !isZero(Right(code, 3));
+    case TimeKept::Frames: return !isNegative(code) && !isFrame(code, frameRate);
+    case TimeKept::FramesInSecond: return !isFrameInSecond(code, frameRate);
     }
-    return true;
+    return false;
 }
 
 QStringList Losses::lines() const
@@ -69,6 +91,7 @@ QStringList Losses::lines() const
     };
     tell(m_milliseconds, u"the milliseconds");
     tell(m_hours, u"the hours above nine");
+    tell(m_signs, u"the minus sign");
     tell(m_texts, u"the text behind an empty line");
     tell(m_styles, u"the style");
     return lines;

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 
 namespace kavro {
 
@@ -22,11 +23,14 @@ public:
     [[nodiscard]] QStringList lines() const;
 
 private:
-    [[nodiscard]] bool keepsTime(const QString &code, double frameRate) const;
+    [[nodiscard]] bool losesSign(QStringView code) const;
+    [[nodiscard]] bool losesHours(QStringView code) const;
+    [[nodiscard]] bool losesMilliseconds(QStringView code, double frameRate) const;
 
     const FormatInfo &m_format;
     int m_milliseconds = 0; ///< subtitles, as in the rest
     int m_hours = 0;
+    int m_signs = 0;
     int m_texts = 0;
     int m_styles = 0;
 };

@@ -40,9 +40,9 @@ public:
     void writeRow(WriteFrame &frame) const override
     {
         frame.put(u"{");
-        frame.put(frameOfTime(frame.start(), frame.frameRate()));
+        frame.put(frameText(frame.start(), frame.frameRate()));
         frame.put(u"}{");
-        frame.put(frameOfTime(frame.end(), frame.frameRate()));
+        frame.put(frameText(frame.end(), frame.frameRate()));
         frame.put(u"}");
         frame.putLines(u"|");
         frame.endLine();

@@ -4,8 +4,6 @@
 #include "formats/read_frame.h"
 #include "formats/write_frame.h"
 
-#include <QStringBuilder>
-
 namespace kavro {
 
 namespace {
@@ -40,8 +38,11 @@ public:
 private:
     static void putFrame(WriteFrame &frame, QStringView code)
     {
-        const QString number = frameOfTime(code, frame.frameRate()) % u',';
-        frame.put(number.rightJustified(8));
+        constexpr QStringView blanks = u"       ";
+        const QString number = frameText(code, frame.frameRate());
+        frame.put(Mid(blanks, number.size() + 1));
+        frame.put(number);
+        frame.put(u",");
     }
 };
 

@@ -3,6 +3,7 @@
 #include "core/line_reader.h"
 #include "core/text.h"
 #include "core/timecode.h"
+#include "formats/write_frame.h"
 
 #include <QStringBuilder>
 
@@ -16,13 +17,25 @@ FileCount countAllLines(LineReader &lines)
     return count;
 }
 
+// One character is found much sooner than a text in any case of letters.
+qsizetype indexOfTag(QStringView line, QStringView tag)
+{
+    const QChar first = tag.front();
+    if (first.isLetter())
+        return line.indexOf(tag, 0, Qt::CaseInsensitive);
+    qsizetype at = line.indexOf(first);
+    while (at >= 0 && !line.sliced(at).startsWith(tag, Qt::CaseInsensitive))
+        at = line.indexOf(first, at + 1);
+    return at;
+}
+
 FileCount countLinesHolding(LineReader &lines, QStringView tag, double share)
 {
     FileCount count;
     int ahead = 0;
     bool found = false;
     while (!lines.atEnd()) {
-        if (lines.readLine().contains(tag, Qt::CaseInsensitive)) {
+        if (indexOfTag(lines.readLine(), tag) >= 0) {
             found = true;
             count.subtitles += share;
         } else if (!found) {
@@ -38,9 +51,11 @@ QString timeWithOneHourDigit(QStringView line, qsizetype at)
     return u'0' % Mid(line, at, 7) % u',' % Mid(line, at + 8, 2) % u'0';
 }
 
-QString oneHourDigitTime(QStringView code)
+void putOneHourDigitTime(WriteFrame &frame, QStringView code)
 {
-    return Mid(code, 2, 7) % u'.' % Mid(code, 10, 2);
+    frame.put(Mid(code, 2, 7));
+    frame.put(u".");
+    frame.put(Mid(code, 10, 2));
 }
 
 QStringView valueBehind(QStringView line, QStringView tag)
@@ -50,7 +65,7 @@ QStringView valueBehind(QStringView line, QStringView tag)
 
 QStringView textBehind(QStringView line, QStringView tag, qsizetype distance)
 {
-    return Mid(line, line.indexOf(tag, 0, Qt::CaseInsensitive) + 1 + distance);
+    return Mid(line, indexOfTag(line, tag) + 1 + distance);
 }
 
 QStringView digitsOf(QStringView text)
@@ -66,9 +81,19 @@ QString timeOfFrame(QStringView frame, double frameRate)
     return SecondsToTimeCode(secondsText(Val(frame) / frameRate));
 }
 
-QString frameOfTime(QStringView code, double frameRate)
+double frameOfTime(QStringView code, double frameRate)
 {
-    return numberText(cutToWhole(TimeCodeToMs(code) / 1000 * frameRate));
+    return cutToWhole(TimeCodeToMs(code) / 1000 * frameRate);
+}
+
+QString frameText(QStringView code, double frameRate)
+{
+    return numberText(frameOfTime(code, frameRate));
+}
+
+double framesInSecond(QStringView code, double frameRate)
+{
+    return Val(Mid(code, 10, 2)) / 100 * frameRate;
 }
 
 } // namespace kavro

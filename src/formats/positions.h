@@ -7,10 +7,15 @@
 
 namespace kavro {
 
+class WriteFrame;
+
 // What formats share that are read by fixed places and by a search for a tag. Places are 1-based.
 
 /// Every line of the file, as a format counts that has one line a subtitle and no header.
 FileCount countAllLines(LineReader &lines);
+
+/// The index of `tag` in any case of letters, -1 when it isn't there. The tag is in lower case.
+qsizetype indexOfTag(QStringView line, QStringView tag);
 
 /// `share` for each line that holds `tag` in any case of letters; the lines ahead of the first such
 /// line are the header.
@@ -19,9 +24,9 @@ FileCount countLinesHolding(LineReader &lines, QStringView tag, double share = 1
 /// The time "H:MM:SS.cc" that stands at `at`, as a time code.
 QString timeWithOneHourDigit(QStringView line, qsizetype at);
 
-/// A time code as "H:MM:SS.cc": the tens of the hours and the last digit of the milliseconds fall
-/// away.
-QString oneHourDigitTime(QStringView code);
+/// Puts a time code as "H:MM:SS.cc": the tens of the hours and the last digit of the milliseconds
+/// fall away.
+void putOneHourDigitTime(WriteFrame &frame, QStringView code);
 
 /// What stands behind `tag`, which is placed case-exactly: a tag that isn't found has the place 0,
 /// and its value is what stands from the tag's own length on.
@@ -37,7 +42,11 @@ QStringView digitsOf(QStringView text);
 /// The time of a frame number: cut to the millisecond, never rounded.
 QString timeOfFrame(QStringView frame, double frameRate);
 
-/// The frame of a time code, cut towards minus infinity, as decimal text.
-QString frameOfTime(QStringView code, double frameRate);
+/// The frame of a time code, cut towards minus infinity; the text is decimal.
+double frameOfTime(QStringView code, double frameRate);
+QString frameText(QStringView code, double frameRate);
+
+/// The hundredths of a time code as frames within its second, not made whole.
+double framesInSecond(QStringView code, double frameRate);
 
 } // namespace kavro

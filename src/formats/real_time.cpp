@@ -57,9 +57,9 @@ public:
     void writeRow(WriteFrame &frame) const override
     {
         frame.put(u"<Time begin=\"");
-        frame.put(oneHourDigitTime(frame.start()));
+        putOneHourDigitTime(frame, frame.start());
         frame.put(u"\" end=\"");
-        frame.put(oneHourDigitTime(frame.end()));
+        putOneHourDigitTime(frame, frame.end());
         frame.put(u"\" /><clear/> ");
         frame.putLines(u"<br>");
         frame.endLine();

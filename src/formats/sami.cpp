@@ -86,11 +86,10 @@ public:
     void writeRow(WriteFrame &frame) const override
     {
         putSync(frame, frame.start());
-        frame.put(u"      <P>");
         frame.putLines(u"<br>");
         frame.endLine();
         putSync(frame, frame.end());
-        frame.writeLine(u"      <P>&nbsp;");
+        frame.put(u"&nbsp;\r\n");
     }
 
     void writeTrailer(WriteFrame &frame) const override
@@ -100,11 +99,12 @@ public:
     }
 
 private:
+    /// The line of a time, and the head of the text's line behind it.
     static void putSync(WriteFrame &frame, QStringView code)
     {
         frame.put(u"   <SYNC START=");
-        frame.put(numberText(cutToWhole(TimeCodeToMs(code))));
-        frame.writeLine(u">");
+        frame.put(numberText(TimeCodeToMs(code)));
+        frame.put(u">\r\n      <P>");
     }
 };
 

@@ -1,6 +1,7 @@
 #include "core/line_reader.h"
 #include "core/text.h"
 #include "formats/implementations.h"
+#include "formats/positions.h"
 #include "formats/read_frame.h"
 #include "formats/write_frame.h"
 
@@ -64,7 +65,7 @@ private:
         frame.put(u"  ");
         frame.put(Left(code, 8));
         frame.put(u":");
-        frame.put(numberText(Val(Mid(code, 10, 2)) / 100 * frame.frameRate()));
+        frame.put(numberText(framesInSecond(code, frame.frameRate())));
     }
 };
 

@@ -51,9 +51,9 @@ public:
     void writeRow(WriteFrame &frame) const override
     {
         frame.put(u"Dialogue: Marked=0,");
-        frame.put(oneHourDigitTime(frame.start()));
+        putOneHourDigitTime(frame, frame.start());
         frame.put(u",");
-        frame.put(oneHourDigitTime(frame.end()));
+        putOneHourDigitTime(frame, frame.end());
         frame.put(u",Default,,0000,0000,0000,!Effect,");
         frame.putLines(u"\\n");
         frame.endLine();

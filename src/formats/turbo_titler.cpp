@@ -28,9 +28,9 @@ public:
 
     void writeRow(WriteFrame &frame) const override
     {
-        frame.put(oneHourDigitTime(frame.start()));
+        putOneHourDigitTime(frame, frame.start());
         frame.put(u",");
-        frame.put(oneHourDigitTime(frame.end()));
+        putOneHourDigitTime(frame, frame.end());
         frame.put(u",NTP ");
         frame.putLines(u"|");
         frame.endLine();

@@ -11,6 +11,7 @@ namespace kavro {
 
 WriteFrame::WriteFrame(const SubtitleDocument &document, const LanguageTable &language)
     : m_document(document),
+      m_frameRate(Val(document.frameRate)),
       m_boldWord(language.text(LangGroup::Common, 26)),
       m_italicWord(language.text(LangGroup::Common, 27))
 {}
@@ -61,11 +62,6 @@ void WriteFrame::findLines(int row)
 std::span<const QStringView> WriteFrame::lines() const
 {
     return std::span(m_lines).first(m_lineCount);
-}
-
-double WriteFrame::frameRate() const
-{
-    return Val(m_document.frameRate);
 }
 
 QString WriteFrame::selectedFont() const

@@ -40,7 +40,7 @@ public:
 
     // What writers ask the program.
 
-    [[nodiscard]] double frameRate() const;
+    [[nodiscard]] double frameRate() const { return m_frameRate; }
     /// Name of the font that is selected for the file.
     [[nodiscard]] QString selectedFont() const;
 
@@ -62,6 +62,7 @@ private:
     void findStyle(const QString &fontEntry);
 
     const SubtitleDocument &m_document;
+    double m_frameRate;
     QString m_boldWord;
     QString m_italicWord;
     QString m_text; ///< kept from file to file for its memory

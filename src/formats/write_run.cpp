@@ -37,7 +37,7 @@ WriteRun::WriteRun(SubtitleWriter &writer, const SubtitleWriter::Parts &parts,
       m_request(request),
       m_info(formatInfo(request.format)),
       m_frame(parts.document, parts.language),
-      m_encoding(request.preview ? TextEncoding() : parts.document.encoding),
+      m_encoding(request.preview ? previewEncoding() : parts.document.encoding),
       m_partOffset(u"00:00:00,000"_s),
       m_row(std::max(request.firstRow, 1)),
       m_lastRow(std::min(request.lastRow, parts.document.subtitleCount()))
@@ -54,17 +54,20 @@ WriteResult WriteRun::run()
     }
     if (m_request.showProgress)
         m_parts.control.open(report(10));
+    const Form::Busy busy(m_parts.document.editor.grdSubEdit.form());
     m_parts.partition.List2.clear();
     if (!m_request.preview)
         m_losses.emplace(*m_info);
-    const int files = m_request.partition ? m_parts.partition.grid.rows() - 2 : 1;
+    const int files = m_request.partition ? m_parts.partition.partCount() : 1;
     m_result.kind = Kind::Written;
     for (int number = 1; number <= files && writeFile(number); ++number) {
     }
     tellLosses();
     m_parts.control.ProgressBar1.setValue(0);
-    if (m_request.showProgress)
+    if (m_request.showProgress && m_result.losses.isEmpty())
         m_parts.control.lblEnd.form().hide();
+    else if (m_request.showProgress)
+        m_parts.control.finish(); // to be read by who has such windows stay
     return m_result;
 }
 
@@ -91,7 +94,7 @@ bool WriteRun::writeFile(int number)
 
 QString WriteRun::partLength(int number) const
 {
-    return m_parts.partition.grid.text(number, 2);
+    return m_parts.partition.grid.text(number, PartLengthColumn);
 }
 
 QString WriteRun::pathOf(int number) const
@@ -102,8 +105,8 @@ QString WriteRun::pathOf(int number) const
     }
     const QString extension = SetSubFileExt(m_request.format);
     if (m_request.partition) {
-        const QString name = m_parts.partition.grid.text(number, 1);
-        return folderOf(m_parts.document.subFileName) % name.split(u'.').first() % extension;
+        return folderOf(m_parts.document.subFileName) % m_parts.partition.partName(number)
+               % extension;
     }
     return m_request.literal ? m_request.path : withExtension(m_request.path, extension);
 }

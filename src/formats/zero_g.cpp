@@ -36,9 +36,9 @@ public:
     void writeRow(WriteFrame &frame) const override
     {
         frame.put(u"E 1 ");
-        frame.put(oneHourDigitTime(frame.start()));
+        putOneHourDigitTime(frame, frame.start());
         frame.put(u" ");
-        frame.put(oneHourDigitTime(frame.end()));
+        putOneHourDigitTime(frame, frame.end());
         frame.put(u" Default NTP ");
         frame.putLines(u"\\n");
         frame.endLine();

@@ -1,7 +1,14 @@
 #pragma once
 
+#include <QString>
+
+#include <vector>
+
 namespace kavro {
 
+class DiagnoseHost;
+class EditHistory;
+class Messages;
 class SubtitleDocument;
 struct ActionTrace;
 struct EditorPage;
@@ -11,14 +18,48 @@ struct EditorPage;
 class BasicEdit
 {
 public:
-    BasicEdit(EditorPage &editor, SubtitleDocument &document, ActionTrace &trace);
+    /// All are borrowed and outlive the tool.
+    struct Parts
+    {
+        SubtitleDocument &document;
+        EditHistory &history;
+        DiagnoseHost &diagnose;
+        Messages &messages;
+        ActionTrace &trace;
+    };
+
+    explicit BasicEdit(const Parts &parts);
+
+    /// Deletes the current row, up to the place where the scan runs, and logs it. True when a scan
+    /// is due; `endDelete` follows it in any case. A scan may delete rows of its own meanwhile:
+    /// each begin has its end, the last begun ends first.
+    bool beginDelete();
+    void endDelete();
 
 private:
+    void insertRow();  ///< Command10
+    void deleteRow();  ///< Command11
     void changeCell(); ///< Command14
 
+    [[nodiscard]] QString newStart(int row) const;
+    void moveRowsDown(int row);
+    void moveRowsUp(int row);
+    void moveNodesDown(int row);
+    void moveNodesUp(int top);
+    void whitenFindings(int row);
+    void clearPreview();
+    void showEdited();
+
+    /// A delete that has begun.
+    struct Deletion
+    {
+        int top;      ///< the grid's top row ahead of it
+        bool deleted; ///< false on the end row, where nothing goes
+    };
+
+    Parts m_parts;
     EditorPage &m_editor;
-    SubtitleDocument &m_document;
-    ActionTrace &m_trace;
+    std::vector<Deletion> m_deletions;
 };
 
 } // namespace kavro

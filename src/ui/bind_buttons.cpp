@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QRadioButton>
 
 namespace kavro {
 
@@ -42,6 +43,18 @@ void bind(QCheckBox &view, CheckBox &box)
     // `clicked` is a person's alone, `setChecked` doesn't raise it.
     QObject::connect(&view, &QCheckBox::clicked, &box, [&box](bool on) { box.check(on); });
     QObject::connect(&box, &CheckBox::valueChanged, &view,
+                     [&view](bool on) { view.setChecked(on); });
+}
+
+void bind(QRadioButton &view, OptionButton &option)
+{
+    bindLook(view, option);
+    const auto caption = [&view, &option] { view.setText(withoutMnemonic(option.caption())); };
+    QObject::connect(&option, &OptionButton::captionChanged, &view, caption);
+    caption();
+    view.setChecked(option.isOn());
+    QObject::connect(&view, &QRadioButton::clicked, &option, [&option] { option.click(); });
+    QObject::connect(&option, &OptionButton::valueChanged, &view,
                      [&view](bool on) { view.setChecked(on); });
 }
 

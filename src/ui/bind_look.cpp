@@ -1,6 +1,6 @@
 #include "ui/bind_look.h"
 
-#include "controls/control.h"
+#include "controls/form.h"
 
 #include <QWidget>
 
@@ -55,6 +55,15 @@ void bindLook(QWidget &widget, Control &control, const QString &label)
 void bindLookInPlace(QWidget &widget, Control &control, const QString &label)
 {
     bind(widget, control, label, false);
+}
+
+void bindCursor(QWidget &window, Form &form)
+{
+    const auto follow = [&window](bool busy) {
+        busy ? window.setCursor(Qt::WaitCursor) : window.unsetCursor();
+    };
+    QObject::connect(&form, &Form::busyChanged, &window, follow);
+    follow(form.isBusy());
 }
 
 } // namespace kavro

@@ -106,6 +106,16 @@ void bindTyping(QLineEdit &edit, TextBox &box)
     });
 }
 
+void bind(QPlainTextEdit &view, TextBox &box, const QString &label)
+{
+    bindLook(view, box, label);
+    view.setReadOnly(true);
+    view.setTabChangesFocus(true);
+    const auto show = [&view, &box] { view.setPlainText(box.text()); };
+    QObject::connect(&box, &TextBox::textChanged, &view, show);
+    show();
+}
+
 void bindLog(QPlainTextEdit &view, TextBox &box, const QString &label)
 {
     bindLookInPlace(view, box, label);
@@ -138,7 +148,11 @@ void bind(QLabel &view, Label &label)
 {
     bindLook(view, label);
     view.setTextFormat(Qt::PlainText);
-    const auto show = [&view, &label] { view.setText(label.caption()); };
+    const auto show = [&view, &label] {
+        // Only the label of a field can have a letter to press.
+        const bool leads = view.buddy() != nullptr;
+        view.setText(leads ? withoutMnemonic(label.caption()) : label.caption());
+    };
     const auto paint = [&view, &label] {
         QPalette palette;
         if (!label.foreColor().isDesktop()) {

@@ -19,6 +19,9 @@ void bind(QLineEdit &edit, TextBox &box, const QString &label);
 /// The text and the selection alone, for a field whose keys and place are its own affair.
 void bindTyping(QLineEdit &edit, TextBox &box);
 
+/// A text of several lines that is only read, from its beginning.
+void bind(QPlainTextEdit &view, TextBox &box, const QString &label);
+
 /// A text that is only read, such as a log; it stays scrolled to its end.
 void bindLog(QPlainTextEdit &view, TextBox &box, const QString &label);
 

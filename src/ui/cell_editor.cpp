@@ -103,8 +103,8 @@ void CellEditor::focusOutEvent(QFocusEvent *event)
 {
     QLineEdit::focusOutEvent(event);
     QWidget *next = QApplication::focusWidget();
-    const bool stays = next == nullptr || next == this || next->window() != window()
-                       || (m_companion != nullptr && m_companion->isAncestorOf(next));
+    const bool stays =
+        next == nullptr || next == this || next->window() != window() || m_isCompanion(next);
     if (!stays && isOpen() && text() != m_before) {
         finish();
         next->setFocus(); // the key of the edit took the focus to the grid

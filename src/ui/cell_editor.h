@@ -2,6 +2,9 @@
 
 #include <QLineEdit>
 
+#include <functional>
+#include <utility>
+
 namespace kavro {
 
 class GridView;
@@ -18,8 +21,9 @@ class CellEditor : public QLineEdit
 public:
     CellEditor(GridView &view, TextBox &box, const QString &label);
 
-    /// The widgets in `companion` go on with the same text: who goes there hasn't left the cell.
-    void setCompanion(const QWidget *companion) { m_companion = companion; }
+    using IsCompanion = std::function<bool(const QWidget *widget)>;
+    /// Companions go on with the same text: who goes there hasn't left the cell.
+    void setCompanions(IsCompanion isCompanion) { m_isCompanion = std::move(isCompanion); }
 
     /// Opens over the current cell, with its whole text selected.
     void begin();
@@ -45,7 +49,7 @@ private:
 
     GridView &m_view;
     TextBox &m_box;
-    const QWidget *m_companion = nullptr;
+    IsCompanion m_isCompanion = [](const QWidget *) { return false; };
     QString m_before; ///< the text that the edit began with
 };
 

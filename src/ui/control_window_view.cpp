@@ -33,7 +33,7 @@ ControlWindowView::ControlWindowView(Form &frmControl, ControlWindow &control, Q
     auto *foot = new QHBoxLayout;
     foot->addWidget(close, 1);
     foot->addWidget(ok);
-    auto *layout = new QVBoxLayout(this);
+    QVBoxLayout *layout = makeLayout();
     layout->addWidget(log, 1);
     layout->addWidget(bar);
     layout->addWidget(end);

@@ -1,16 +1,21 @@
 #include "ui/editor_page_view.h"
 
-#include "core/document.h"
-#include "core/editor_page.h"
-#include "ui/basic_edit_view.h"
+#include "app/program.h"
+#include "ui/bind_buttons.h"
 #include "ui/bind_text.h"
 #include "ui/cell_editor.h"
 #include "ui/elided_label.h"
 #include "ui/finding_panel.h"
 #include "ui/grid_view.h"
+#include "ui/script_font.h"
+#include "ui/tool_pages.h"
 
+#include <QEvent>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QShortcut>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -37,8 +42,8 @@ QList<int> columnWidths(const QFontMetrics &metrics)
 
 } // namespace
 
-EditorPageView::EditorPageView(SubtitleDocument &document, QWidget *parent)
-    : QWidget(parent), m_document(document)
+EditorPageView::EditorPageView(Program &program, QWidget *parent)
+    : QWidget(parent), m_program(program), m_document(program.document)
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(9, 9, 9, 9);
@@ -46,10 +51,13 @@ EditorPageView::EditorPageView(SubtitleDocument &document, QWidget *parent)
     layout->addWidget(makePreview());
     layout->addWidget(makeGrid(), 1);
     layout->addWidget(makePositionLine());
-    auto *basic = new BasicEditView(document.editor, this);
-    m_cellEditor->setCompanion(basic);
-    layout->addWidget(basic);
-    setFocusProxy(m_grid);
+    layout->addWidget(makeToolPages());
+    connectKeys();
+}
+
+void EditorPageView::focusGrid()
+{
+    m_grid->setFocus();
 }
 
 void EditorPageView::finishEdit()
@@ -76,6 +84,7 @@ QWidget *EditorPageView::makePreview()
         text->setAlignment(Qt::AlignCenter);
         text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         bindPreview(*text, editor.Label23[line], tr("Preview, line %1").arg(line + 1));
+        followScript(*text, m_program.settings);
         layout->addWidget(text, line, 1);
     }
     auto *count = new QLabel(frame);
@@ -90,6 +99,7 @@ QWidget *EditorPageView::makeGrid()
     const auto finding = [this](int row) { return m_document.rowErrorText(row); };
     m_grid = new GridView(editor.grdSubEdit, tr("Subtitles"), finding, this);
     m_grid->setColumnWidths(columnWidths(m_grid->fontMetrics()), FirstTextColumn);
+    followScript(*m_grid, m_program.settings);
     m_grid->setHint(tr("Open a subtitle file with Ctrl+O, or drop one here."));
     m_cellEditor = new CellEditor(*m_grid, editor.rtfEdit, tr("Current cell"));
     new FindingPanel(*m_grid, editor.errExp, editor.lblErrExp);
@@ -111,9 +121,79 @@ QWidget *EditorPageView::makeGrid()
 
 QWidget *EditorPageView::makePositionLine()
 {
-    auto *position = new QLabel(this);
+    auto *line = new QWidget(this);
+    auto *layout = new QHBoxLayout(line);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto *position = new QLabel(line);
     bind(*position, m_document.editor.Label13);
-    return position;
+    layout->addWidget(position, 1);
+    layout->addWidget(makeNodeButtons());
+    return line;
+}
+
+QWidget *EditorPageView::makeNodeButtons()
+{
+    EditorPage &editor = m_document.editor;
+    auto *group = new QWidget(this);
+    auto *layout = new QHBoxLayout(group);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    const auto add = [layout, group](auto &control) {
+        auto *button = new QToolButton(group);
+        bind(*button, control);
+        // The grid keeps the focus, and without it there is no node to make.
+        button->setFocusPolicy(Qt::TabFocus);
+        button->setAutoRaise(true);
+        layout->addWidget(button);
+        return button;
+    };
+    layout->addWidget(new QLabel(tr("Node"), group));
+    add(editor.Label74);
+    add(editor.Label75);
+    // Its place stays free in the rows that can't start a node.
+    QSizePolicy policy = add(editor.btnNode[0])->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    layout->itemAt(layout->count() - 1)->widget()->setSizePolicy(policy);
+    return group;
+}
+
+QWidget *EditorPageView::makeToolPages()
+{
+    auto *pages = new QWidget(this);
+    auto *layout = new QHBoxLayout(pages);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(12);
+    auto *text = new TextPages(m_program, pages);
+    auto *timing = new TimingPages(m_program, pages);
+    for (ToolPages *tabs : {static_cast<ToolPages *>(text), static_cast<ToolPages *>(timing)}) {
+        connect(tabs, &ToolPages::aboutToAct, this, &EditorPageView::finishEdit);
+        layout->addWidget(tabs, 1);
+    }
+    m_cellEditor->setCompanions([text](const QWidget *widget) {
+        const QWidget *basic = text->page(0);
+        return basic != nullptr && basic->isAncestorOf(widget);
+    });
+    return pages;
+}
+
+void EditorPageView::connectKeys()
+{
+    const auto press = [this](const QKeySequence &key, Button &button) {
+        auto *shortcut = new QShortcut(key, m_grid);
+        // In a field these keys are the field's.
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, &button, [&button] {
+            if (button.acceptsActs()) {
+                button.click();
+            }
+        });
+    };
+    auto *finding = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Return), this);
+    finding->setKeys(
+        {QKeySequence(Qt::ALT | Qt::Key_Return), QKeySequence(Qt::ALT | Qt::Key_Enter)});
+    connect(finding, &QShortcut::activated, &m_document, &SubtitleDocument::toggleFinding);
+    press(QKeySequence(Qt::Key_Insert), m_document.editor.Command10);
+    press(QKeySequence(Qt::CTRL | Qt::Key_Delete), m_document.editor.Command11);
 }
 
 } // namespace kavro

@@ -2,6 +2,8 @@
 
 #include <QDialog>
 
+class QVBoxLayout;
+
 namespace kavro {
 
 class Form;
@@ -19,6 +21,10 @@ public:
     void reject() override {}
 
 protected:
+    /// The window's layout, with the margins that all windows have.
+    QVBoxLayout *makeLayout();
+    /// Gives labels, boxes and buttons their letters.
+    void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:

@@ -15,7 +15,7 @@ HelpWindowView::HelpWindowView(Form &frmHelp, HelpWindow &help, HelpPages &pages
     auto *ok = new QPushButton(this);
     bind(*ok, help.cmdOk);
     ok->setDefault(true);
-    auto *layout = new QVBoxLayout(this);
+    QVBoxLayout *layout = makeLayout();
     layout->addWidget(new HelpPanel(pages, this), 1);
     layout->addWidget(ok, 0, Qt::AlignRight);
     resize(720, 560);

@@ -1,11 +1,13 @@
 #include "app/version.h"
 #include "ui/main_window.h"
+#include "ui/program_icon.h"
 #include "ui/shell.h"
 #include "ui/start_trace.h"
 #include "ui/theme.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 
 #include <clocale>
 
@@ -49,6 +51,9 @@ int main(int argc, char *argv[])
 
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(kavro::programIcon());
+    // What the desktop knows this program by: its entry is kavro.desktop.
+    QGuiApplication::setDesktopFileName(u"kavro"_s);
     // Decimal points are points, whatever the desktop's language.
     std::setlocale(LC_NUMERIC, "C");
     parser.process(application);

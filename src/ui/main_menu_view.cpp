@@ -9,6 +9,7 @@
 #include <QActionGroup>
 #include <QMenu>
 
+#include <algorithm>
 #include <utility>
 
 namespace kavro {
@@ -36,6 +37,19 @@ constexpr MenuRow rows[] = {
     {u"mnuFile", &MainMenu::mnuSaveSettings},
     {u"mnuFile", &MainMenu::mnuPrint, "Ctrl+P", true},
     {u"mnuFile", &MainMenu::mnuExit, "Ctrl+Q", true},
+    {u"mnuEdit", &MainMenu::mnuUndo, "Ctrl+Z"},
+    {u"mnuEdit", &MainMenu::mnuRedo, "Ctrl+Shift+Z; Ctrl+Y"},
+    {u"mnuEdit", &MainMenu::mnuSearch, "Ctrl+F", true},
+    {u"mnuEdit", &MainMenu::mnuSearchAgain, "F3"},
+    {u"mnuEdit", &MainMenu::mnuReplace, "Ctrl+H"},
+    {u"mnuEdit", &MainMenu::mnuGotoLine, "Ctrl+G"},
+    {u"mnuEdit", &MainMenu::mnuNextFinding, "F8", true},
+    {u"mnuEdit", &MainMenu::mnuPreviousFinding, "Shift+F8"},
+    {u"mnuView", &MainMenu::mnuPreview},
+    {u"mnuOptions", &MainMenu::mnuSettings},
+    {u"mnuOptions", &MainMenu::mnuSystem},
+    {u"mnuOptions", &MainMenu::mnuHistory},
+    {u"mnuWizards", &MainMenu::mnuWizard},
     {u"mnuHelp", &MainMenu::mnuHelpIndex},
     {u"mnuHelp", &MainMenu::mnuShowTips},
     {u"mnuHelp", &MainMenu::mnuAbout, "", true},
@@ -60,12 +74,22 @@ MainMenuView::MainMenuView(MainMenu &menu, ListBox &encodings, std::function<voi
         QAction *action = shown->addAction(QString());
         connect(action, &QAction::triggered, this, beforeAct);
         bind(*action, entry);
-        action->setShortcut(QKeySequence(QLatin1String(row.keys)));
+        action->setShortcuts(QKeySequence::listFromString(QLatin1String(row.keys)));
+        // A menu without an entry isn't shown.
+        connect(action, &QAction::changed, shown, [shown] { showIfUsed(*shown); });
+        showIfUsed(*shown);
         if (row.entry == &MainMenu::mnuReopen) {
             makeEncodings(*action);
         }
     }
     assignMnemonics(actions());
+}
+
+void MainMenuView::showIfUsed(QMenu &menu)
+{
+    menu.menuAction()->setVisible(std::ranges::any_of(menu.actions(), [](const QAction *entry) {
+        return entry->isVisible() && !entry->isSeparator();
+    }));
 }
 
 QMenu *MainMenuView::makeMenu(const Control &entry, QStringView control, const QString &otherwise)

@@ -22,6 +22,7 @@ public:
                  QWidget *parent);
 
 private:
+    static void showIfUsed(QMenu &menu);
     QMenu *makeMenu(const Control &entry, QStringView control, const QString &otherwise);
     void makeEncodings(QAction &entry);
 

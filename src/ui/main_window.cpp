@@ -2,12 +2,17 @@
 
 #include "app/program.h"
 #include "app/version.h"
+#include "ui/bind_indicators.h"
+#include "ui/bind_look.h"
+#include "ui/bottom_panel.h"
+#include "ui/diagnose_view.h"
 #include "ui/editor_page_view.h"
 #include "ui/form_focus.h"
 #include "ui/help_browser.h"
 #include "ui/left_panel.h"
 #include "ui/main_menu_view.h"
 #include "ui/page_tabs.h"
+#include "ui/partition_view.h"
 #include "ui/status_bar_view.h"
 #include "ui/view_state.h"
 
@@ -22,6 +27,7 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QTimer>
+#include <QVBoxLayout>
 
 #include <cmath>
 #include <utility>
@@ -72,9 +78,21 @@ void MainWindow::makePages()
     m_splitter->setChildrenCollapsible(false);
     m_splitter->addWidget(new LeftPanel(m_program.navigation, m_help, m_splitter));
     m_tabs = new PageTabs(m_program.navigation.tabMain, tr("Pages"), m_splitter);
-    addPage(EditorTab,
-            [this](QWidget *page) { return new EditorPageView(m_program.document, page); });
-    m_splitter->addWidget(m_tabs);
+    addPage(EditorTab, [this](QWidget *page) { return new EditorPageView(m_program, page); });
+    addPage(PartitionTab, [this](QWidget *page) { return new PartitionView(m_program, page); });
+    addPage(DiagnoseTab, [this](QWidget *page) {
+        auto *view = new DiagnoseView(m_program.diagnose, page);
+        connect(view, &ToolPage::aboutToAct, this, &MainWindow::finishEdit);
+        connect(view, &DiagnoseView::lineAsked, this, &MainWindow::showCurrentLine);
+        return view;
+    });
+    auto *right = new QWidget(m_splitter);
+    auto *layout = new QVBoxLayout(right);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_tabs, 1);
+    layout->addWidget(new BottomPanel(m_program, right));
+    m_splitter->addWidget(right);
     m_splitter->setStretchFactor(0, 0);
     m_splitter->setStretchFactor(1, 1);
     setCentralWidget(m_splitter);
@@ -91,9 +109,11 @@ void MainWindow::addPage(int number, PageTabs::MakePage make)
 void MainWindow::connectProgram()
 {
     new FormFocus(m_program.frmMain, *this);
+    runByTheClock(m_program.recovery.timRecovery, *this);
     SubtitleDocument &document = m_program.document;
     connect(&document, &SubtitleDocument::nameChanged, this, &MainWindow::showTitle);
     connect(&document, &SubtitleDocument::fileChangedChanged, this, &QWidget::setWindowModified);
+    bindCursor(*this, m_program.frmMain);
     connect(&m_program.frmMain, &Form::openChanged, this, [this](bool open) {
         if (!open && m_program.hasEnded()) {
             end();
@@ -123,7 +143,7 @@ void MainWindow::open()
     const int left = state.leftPanelWidth > 0 ? state.leftPanelWidth : leftPanelWidth;
     m_splitter->setSizes({left, rect.width() - left});
     if (EditorPageView *editor = editorPage()) {
-        editor->setFocus();
+        editor->focusGrid();
     }
     state.maximized ? showMaximized() : show();
 }
@@ -132,6 +152,9 @@ void MainWindow::finishEdit()
 {
     if (EditorPageView *editor = editorPage()) {
         editor->finishEdit();
+    }
+    if (auto *parts = qobject_cast<PartitionView *>(m_tabs->page(PartitionTab))) {
+        parts->finishEdit();
     }
 }
 
@@ -154,6 +177,14 @@ void MainWindow::showPageHelp()
     Navigation &navigation = m_program.navigation;
     navigation.SSTab1.setTab(1);
     m_program.help.ShowHelpPage(navigation.helpOfMainTab(navigation.tabMain.tab()));
+}
+
+void MainWindow::showCurrentLine()
+{
+    Grid &grid = m_program.editor.grdSubEdit;
+    m_program.navigation.tabMain.pick(EditorTab);
+    grid.scrollTo(grid.row());
+    grid.setFocus();
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

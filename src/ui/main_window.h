@@ -41,6 +41,7 @@ private:
     void connectProgram();
     void showTitle();
     void showPageHelp();
+    void showCurrentLine();
     void storePlace();
     void end();
     [[nodiscard]] EditorPageView *editorPage() const;

@@ -1,6 +1,11 @@
 #include "ui/mnemonics.h"
 
 #include <QAction>
+#include <QCheckBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
 
 namespace kavro {
 
@@ -19,6 +24,19 @@ QString plainText(const QString &text)
         }
     }
     return plain;
+}
+
+/// The letters of a window's menu bar.
+void takeMenuLetters(const QWidget &window, Mnemonics &mnemonics)
+{
+    const auto *bar = window.findChild<QMenuBar *>();
+    const QList<QAction *> menus = bar == nullptr ? QList<QAction *>() : bar->actions();
+    for (const QAction *menu : menus) {
+        const QKeySequence letter = QKeySequence::mnemonic(menu->text());
+        if (menu->isVisible() && !letter.isEmpty()) {
+            mnemonics.take(QChar(letter[0].key()));
+        }
+    }
 }
 
 } // namespace
@@ -51,6 +69,31 @@ qsizetype Mnemonics::freeLetter(const QString &caption) const
         }
     }
     return -1;
+}
+
+void assignMnemonics(QWidget &window)
+{
+    Mnemonics mnemonics;
+    takeMenuLetters(window, mnemonics);
+    const auto mark = [&mnemonics](auto &widget) {
+        const QString marked = mnemonics.mark(plainText(widget.text()));
+        if (widget.text() != marked) {
+            widget.setText(marked);
+        }
+    };
+    const QList<QWidget *> all = window.findChildren<QWidget *>();
+    for (QWidget *widget : all) {
+        if (widget->window() != &window || !widget->isVisible()) {
+            continue;
+        }
+        if (auto *label = qobject_cast<QLabel *>(widget); label != nullptr && label->buddy()) {
+            mark(*label);
+        } else if (qobject_cast<QPushButton *>(widget) || qobject_cast<QCheckBox *>(widget)
+                   || qobject_cast<QRadioButton *>(widget))
+        {
+            mark(*static_cast<QAbstractButton *>(widget));
+        }
+    }
 }
 
 void assignMnemonics(const QList<QAction *> &actions)

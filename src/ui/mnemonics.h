@@ -5,6 +5,7 @@
 #include <QString>
 
 class QAction;
+class QWidget;
 
 namespace kavro {
 
@@ -14,6 +15,8 @@ class Mnemonics
 public:
     /// A plain caption with "&" ahead of its first letter that is free, heads of words first.
     QString mark(const QString &caption);
+    /// A letter that others have.
+    void take(QChar letter) { m_taken.insert(letter.toLower()); }
 
 private:
     [[nodiscard]] qsizetype freeLetter(const QString &caption) const;
@@ -23,5 +26,9 @@ private:
 
 /// The same for the entries of a menu; a second call gives the same letters.
 void assignMnemonics(const QList<QAction *> &actions);
+
+/// The same for the labels of fields, the boxes and the buttons that a window shows, in their order
+/// and beside the letters of its menu bar.
+void assignMnemonics(QWidget &window);
 
 } // namespace kavro

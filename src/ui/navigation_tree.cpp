@@ -39,23 +39,55 @@ NavigationTree::NavigationTree(TreeView &tree, TreeModel::IsShown isShown, const
     setTextElideMode(Qt::ElideMiddle); // a path is told by both its ends
     setItemDelegate(new AiryLines(this));
     setModel(&m_model);
-    expandToDepth(0);
+    showExpanded();
     connect(this, &QTreeView::clicked, this, &NavigationTree::act);
-    connect(&m_model, &QAbstractItemModel::modelReset, this, [this] { expandToDepth(0); });
-    connect(&tree, &TreeView::selectedChanged, this, [this](int node) {
-        const QModelIndex index = m_model.indexOf(node);
-        if (index.isValid()) {
-            setCurrentIndex(index);
-        }
-    });
+    connect(this, &QTreeView::doubleClicked, this, &NavigationTree::choose);
+    connect(&m_model, &QAbstractItemModel::modelReset, this, &NavigationTree::showExpanded);
+    connect(&tree, &TreeView::expanded, this,
+            [this](int node) { setExpanded(m_model.indexOf(node), true); });
+    connect(&tree, &TreeView::selectedChanged, this, &NavigationTree::showSelected);
+    showSelected();
 }
 
 void NavigationTree::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         act(currentIndex());
-    } else {
-        QTreeView::keyPressEvent(event);
+        choose(currentIndex());
+        return;
+    }
+    const QModelIndex before = currentIndex();
+    QTreeView::keyPressEvent(event);
+    if (m_actsOnSteps && currentIndex() != before) {
+        act(currentIndex());
+    }
+}
+
+void NavigationTree::showSelected()
+{
+    const QModelIndex index = m_model.indexOf(m_tree.selected());
+    if (index.isValid()) {
+        setCurrentIndex(index);
+    }
+}
+
+void NavigationTree::showExpanded()
+{
+    QList<int> open(m_tree.roots());
+    while (!open.isEmpty()) {
+        const TreeView::Node &node = m_tree.node(open.constLast());
+        const QModelIndex index = m_model.indexOf(open.takeLast());
+        if (node.expanded && index.isValid()) {
+            setExpanded(index, true);
+            open.append(node.children);
+        }
+    }
+}
+
+void NavigationTree::choose(const QModelIndex &index)
+{
+    if (index.isValid()) {
+        emit chosen(TreeModel::nodeOf(index));
     }
 }
 

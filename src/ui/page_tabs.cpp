@@ -2,9 +2,11 @@
 
 #include "controls/tab_strip.h"
 #include "ui/bind_look.h"
+#include "ui/mnemonics.h"
 
 #include <QScopedValueRollback>
 #include <QTabBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -61,8 +63,31 @@ void PageTabs::showTab(int number)
     if (page.content == nullptr) {
         page.content = page.make(page.frame);
         page.frame->layout()->addWidget(page.content);
+        placeInTabOrder(*page.content);
     }
     setCurrentIndex(index);
+    // Other pages than before show, and what they show is set by then.
+    QTimer::singleShot(0, this, [this] {
+        if (isVisible()) {
+            assignMnemonics(*window());
+        }
+    });
+}
+
+/// A page that is made late would come at the window's end.
+void PageTabs::placeInTabOrder(QWidget &page)
+{
+    QList<QWidget *> stops;
+    for (QWidget *next = page.nextInFocusChain(); next != &page; next = next->nextInFocusChain()) {
+        if (page.isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) != 0) {
+            stops.append(next);
+        }
+    }
+    QWidget *before = tabBar();
+    for (QWidget *stop : stops) {
+        setTabOrder(before, stop);
+        before = stop;
+    }
 }
 
 void PageTabs::showTexts(int number)

@@ -38,6 +38,7 @@ private:
     };
 
     void showTab(int number);
+    void placeInTabOrder(QWidget &page);
     void showTexts(int number);
     void act(int index);
     [[nodiscard]] int indexOfNumber(int number) const;

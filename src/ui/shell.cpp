@@ -1,10 +1,16 @@
 #include "ui/shell.h"
 
+#include "ui/about_view.h"
 #include "ui/control_window_view.h"
+#include "ui/goto_view.h"
 #include "ui/help_window_view.h"
+#include "ui/history_view.h"
 #include "ui/main_window.h"
+#include "ui/preview_view.h"
+#include "ui/settings_view.h"
 #include "ui/splash_view.h"
 #include "ui/tip_view.h"
+#include "ui/wizard_view.h"
 
 namespace kavro {
 
@@ -19,7 +25,8 @@ Shell::Shell(FileStore &store, Folders &folders)
                  .screen = m_screen,
                  .clock = m_clock,
                  .random = m_random},
-                store, folders)
+                store, folders),
+      m_translator(m_program.languagePack.ownTexts)
 {
     m_messages.form = &m_program.frmMessageBox;
     m_files.documentFormat = [this] { return m_program.document.curFormatId; };
@@ -43,8 +50,27 @@ void Shell::addWindows()
     m_forms.add(program.frmTip, [&program](QWidget *parent) {
         return new TipView(program.frmTip, program.tips, parent);
     });
+    m_forms.add(program.frmHistory, [&program](QWidget *parent) {
+        return new HistoryView(program.frmHistory, program.history, parent);
+    });
+    m_forms.add(program.frmGoto, [&program](QWidget *parent) {
+        return new GotoView(program.frmGoto, program.goTo, parent);
+    });
     m_forms.add(program.frmHelp, [&program, this](QWidget *parent) {
         return new HelpWindowView(program.frmHelp, program.help, m_help, parent);
+    });
+    m_forms.add(program.frmWizard, [&program](QWidget *parent) {
+        return new WizardView(program.frmWizard, program.wizard, parent);
+    });
+    m_forms.add(program.frmAbout, [&program](QWidget *parent) {
+        return new AboutView(program.frmAbout, program.about, parent);
+    });
+    m_forms.add(program.frmSettings, [&program](QWidget *parent) {
+        return new SettingsView(program.frmSettings, program.settingsWindow, program.settings,
+                                parent);
+    });
+    m_forms.add(program.frmPreview, [&program](QWidget *parent) {
+        return new PreviewView(program.frmPreview, program.scriptPreview, parent);
     });
     m_forms.add(
         program.frmControl,

@@ -6,6 +6,7 @@
 #include "ui/help_browser.h"
 #include "ui/machine.h"
 #include "ui/message_dialog.h"
+#include "ui/pack_translator.h"
 #include "ui/text_printer.h"
 
 #include <memory>
@@ -43,6 +44,7 @@ private:
     SystemClock m_clock;
     SystemRandom m_random;
     Program m_program;
+    PackTranslator m_translator;
     std::unique_ptr<MainWindow> m_mainWindow;
 };
 

@@ -48,9 +48,7 @@ TipView::TipView(Form &frmTip, TipWindow &tips, QWidget *parent) : FormDialog(fr
     foot->addWidget(atStart, 1);
     foot->addWidget(next);
     foot->addWidget(ok);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 16, 16, 14);
-    layout->setSpacing(16);
+    QVBoxLayout *layout = makeLayout();
     layout->addLayout(top, 1);
     layout->addLayout(foot);
     ok->setFocus();

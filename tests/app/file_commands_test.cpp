@@ -46,6 +46,12 @@ TEST(NewFile, MakesOneEmptyLineInTheFormatOfTheParts)
     EXPECT_TRUE(run->menu.mnuSavesubfile.isEnabled());
     EXPECT_TRUE(run->editor.SSTab2.isEnabled());
     EXPECT_FALSE(run->menu.mnuReopen.isEnabled()) << "there is no file to read again";
+    for (const Control *control : std::initializer_list<const Control *>{
+             &run->editor.btnNode[0], &run->editor.Label74, &run->editor.Label75,
+             &run->player.Command49[0], &run->player.Command49[1]})
+    {
+        EXPECT_TRUE(control->isEnabled()) << qPrintable(control->name());
+    }
     EXPECT_EQ(run->trace.lastActionCode, 101);
     EXPECT_FALSE(run->document.fileChanged());
 }

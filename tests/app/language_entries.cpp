@@ -17,6 +17,9 @@ QString setsOf(const LanguageSection &section, const LanguageRow &row)
     if (section.target == LanguageTarget::VariableHelp) {
         return u"sysVar[%1]"_s.arg(row.index);
     }
+    if (section.target == LanguageTarget::Texts) {
+        return u"text %1"_s.arg(row.index);
+    }
     const bool elsewhere = row.control.contains(u'.');
     if (row.control.isEmpty() || row.control.endsWith(u'.')) {
         return (elsewhere ? row.control.chopped(1) : section.form).toString();

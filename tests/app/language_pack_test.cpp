@@ -103,6 +103,23 @@ TEST_F(Packs, EntriesReachEveryKindOfTarget)
     EXPECT_EQ(program().languagePack.sysVarHelp[200], u"Tekst:=a,b#c"_s);
 }
 
+TEST_F(Packs, MessagesAreSaidInTheLanguageOfThePack)
+{
+    Messages &messages = program().messages;
+    const auto say = [&](const QString &pattern, const QString &title) {
+        messages.ShowMessage({pattern, {u"Warning"_s}}, Answer::Ok, u"ok"_s, title);
+        const Message shown = run.doors.messages.shown.takeLast();
+        return shown.title + u": "_s + shown.text;
+    };
+    const LanguageRow &row = languageSection(u"Messages")->rows.front();
+    const QString english = row.caption.toString();
+    loadBody(u"[Messages]\n%1,Mis/n%1^\n"_s.arg(row.index));
+    EXPECT_EQ(say(english, u"x"_s), u"x: Mis\r\n0"_s);
+    loadBody(u"[Messages]\n%1,^\n"_s.arg(row.index));
+    EXPECT_EQ(say(english, english), u"Mis/n0: Mis\r\n0"_s) << "an empty text is none";
+    EXPECT_EQ(say(u"a macro's %1"_s, u"t"_s), u"t: a macro's Warning"_s) << "values stay";
+}
+
 TEST_F(Packs, OddLinesAreReadAsTheirSignsStand)
 {
     const struct

@@ -5,8 +5,10 @@
 #include "tests/support/test_program.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSet>
 #include <QStandardPaths>
 
@@ -47,7 +49,7 @@ TEST(LanguageSections, StandInOneOrder)
                 << name << " entry " << row.index << " lies in a group";
         }
     }
-    EXPECT_EQ(names.size(), 45);
+    EXPECT_EQ(names.size(), 48);
 }
 
 TEST(LanguageSections, NoControlHasTwoCaptions)
@@ -72,6 +74,7 @@ const QHash<QString, const char *> withoutRow{
     {u"frmMain.Label13"_s, "the current cell"},
     {u"frmMain.Label24"_s, "a time"},
     {u"frmMain.Label36"_s, "entry of a list"},
+    {u"frmMain.Label38"_s, "entry of a list"},
     {u"frmMain.Label42"_s, "entry of a list"},
     {u"frmMain.Label43"_s, "entry of a list"},
     {u"frmMain.Label46"_s, "entry of a list"},
@@ -86,7 +89,19 @@ const QHash<QString, const char *> withoutRow{
     {u"frmFile.Label1"_s, "a folder"},
     {u"frmFile.Label36"_s, "a drive"},
     {u"frmFile.Label5"_s, "entry of a list"},
+    {u"frmAbout.lblTitle"_s, "title and version"},
+    {u"frmAbout.lblBuild"_s, "an item of the language table"},
+    {u"frmAbout.lblProgrammed"_s, "an item of the language table"},
+    {u"frmAbout.lblLanguage"_s, "an item of the language table"},
+    {u"frmAbout.lblAuthor"_s, "an item of the language table"},
     {u"frmSettings.Label38"_s, "entry of a list"},
+    {u"frmSettings.Label64"_s, "entry of a list"},
+    {u"frmSettings.startup"_s, "a node of the Settings tree"},
+    {u"frmSettings.defaults"_s, "a node of the Settings tree"},
+    {u"frmSettings.lng"_s, "a node of the Settings tree"},
+    {u"frmSettings.general"_s, "a node of the Settings tree"},
+    {u"frmSettings.script"_s, "a node of the Settings tree"},
+    {u"frmSettings.audio"_s, "a node of the Settings tree"},
     {u"frmSplash.Label1"_s, "shown before a pack is read"},
     {u"frmSplash.lblBuild"_s, "shown before a pack is read"},
     {u"frmSplash.lblVersion"_s, "shown before a pack is read"},
@@ -115,6 +130,67 @@ QStringList uncoveredCaptions(const Program &program, const QSet<QString> &cover
     return names;
 }
 
+/// Texts that views write ahead of any pack.
+const QSet<QString> beforeAPack{u"Build"_s, u"Editor for film subtitles"_s};
+
+TEST(LanguageSections, CoverEveryTextThatAViewWrites)
+{
+    QSet<QString> covered = beforeAPack;
+    for (const LanguageRow &row : languageSection(u"Window Texts")->rows) {
+        covered.insert(row.caption.toString());
+    }
+    const QRegularExpression call(u"\\btr\\(\\s*\"([^\"]*)\"(\\))?"_s);
+    QSet<QString> written;
+    for (const QString &file : QDir(source + u"/src/ui"_s).entryList({u"*.cpp"_s, u"*.h"_s})) {
+        const QString text = readText(source + u"/src/ui/"_s + file);
+        for (const auto &found : call.globalMatch(text)) {
+            EXPECT_TRUE(covered.contains(found.captured(1)) && found.hasCaptured(2))
+                << qPrintable(file) << ": " << qPrintable(found.captured(1));
+            written.insert(found.captured(1));
+        }
+    }
+    EXPECT_EQ((covered - written).values().join(u", "_s), QString()) << "written by no view";
+}
+
+/// The sources below the windows, with literals that stand one behind the other joined.
+QString programSources()
+{
+    static const QRegularExpression seam(u"\"(_s)?\\s*\\n\\s*u?\""_s);
+    QString text;
+    QDirIterator files(source + u"/src"_s, {u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (!path.contains(u"/src/ui/"_s) && !path.contains(u"/language_sections"_s)) {
+            text += readText(path).remove(seam);
+        }
+    }
+    return text;
+}
+
+TEST(LanguageSections, CoverTheMessagesOfTheProgram)
+{
+    const QString program = programSources();
+    const QString nothing = u"/nNothing was changed."_s;
+    QSet<QString> covered;
+    for (const LanguageRow &row : languageSection(u"Messages")->rows) {
+        const QString text = row.caption.toString();
+        covered.insert(text);
+        const QString literal = text.endsWith(nothing) ? text.chopped(nothing.size()) : text;
+        EXPECT_TRUE(program.contains(u'"' + literal + u'"'))
+            << "said nowhere: " << qPrintable(literal);
+    }
+    const QRegularExpression call(
+        u"(ShowMessage|showRefusal|refuse)\\(\\s*\\{?\\s*u\"([^\"]*)\""_s);
+    int said = 0;
+    for (const auto &found : call.globalMatch(program)) {
+        ++said;
+        const bool refusal = found.captured(1) == u"showRefusal";
+        EXPECT_TRUE(covered.contains(found.captured(2) + (refusal ? nothing : QString())))
+            << qPrintable(found.captured(2));
+    }
+    EXPECT_GT(said, 20);
+}
+
 TEST(LanguageSections, CoverEveryCaption)
 {
     QSet<QString> covered;
@@ -130,6 +206,7 @@ TEST(LanguageSections, CoverEveryCaption)
     run->splash.ExitfrmSplash();
     LoadRequest request{.path = run.write(u"film.srt"_s, twoSubtitles())};
     run->loader.LoadSubFile(request);
+    run->about.show();
     for (const QString &name : uncoveredCaptions(run.program(), covered)) {
         EXPECT_TRUE(withoutRow.contains(name))
             << qPrintable(name) << " has a caption that no section sets";
@@ -191,10 +268,69 @@ TEST_P(ShippedPack, HasEveryTextAndNoOther)
                 << "caption of " << qPrintable(key);
             EXPECT_EQ(text.section(u'^', 1).isEmpty(), entry.tip.isEmpty())
                 << "tool tip of " << qPrintable(key);
-            EXPECT_EQ(text.count(u"/n"_s), entry.caption.count(u"/n"_s)) << qPrintable(key);
+            for (const QString &sign : {u"/n"_s, u"%1"_s, u"%2"_s, u"%3"_s}) {
+                EXPECT_EQ(text.count(sign), entry.caption.count(sign)) << qPrintable(key);
+            }
         }
     }
     EXPECT_EQ(texts.keys().join(u' '), QString()) << "entries that set nothing";
+}
+
+/// What has to stand in a text whatever the language: variables, blanks at the ends that part it
+/// from what is put behind it, the sign that ends it, types and values ahead of a description.
+QStringList fixedParts(const QString &text)
+{
+    static const QRegularExpression fixed(
+        u"^ +| +$|:(?=\\s*$)|sysVar\\[[0-9]+|%[0-9]|"
+        u"^\\w+:=|#|(True|False)(?=[:=])|-?[0-9]+:?=|\\.\\.[^ ]+"_s);
+    QStringList parts;
+    for (auto found = fixed.globalMatch(text); found.hasNext();) {
+        parts.append(found.next().captured());
+    }
+    return parts;
+}
+
+TEST_P(ShippedPack, KeepsWhatIsNoLanguage)
+{
+    const QHash<QString, QString> texts = textsOf(sourceFile);
+    for (const LanguageSection &section : languageSections()) {
+        for (const LanguageEntry &entry : entriesOf(section)) {
+            const QString key = u"[%1]%2"_s.arg(section.name).arg(entry.index);
+            EXPECT_EQ(fixedParts(texts[key].section(u'^', 0, 0)), fixedParts(entry.caption))
+                << qPrintable(key);
+        }
+    }
+}
+
+/// The words that a language shares with English, in small letters; no text of several words is.
+const QHash<QString, QString> sharedWords{
+    {u"Dutch"_s, u"build diagnose editor filters info later macro macro's menu ok online pauze "
+                 "recent stop wizard"_s},
+    {u"French"_s,
+     u"build collection collections date format macro menu ok options style variables"_s},
+    {u"German"_s, u"build diagnose editor format info name ok online system text"_s},
+    {u"Spanish"_s, u"col editor error macro no panel variables"_s},
+};
+
+TEST_P(ShippedPack, LeavesNothingInEnglish)
+{
+    static const QRegularExpression word(u"\\p{L}{2,}"_s);
+    static const QRegularExpression ends(u"^\\W+|\\W+$"_s);
+    const QStringList shared = sharedWords[name].split(u' ');
+    const QHash<QString, QString> texts = textsOf(sourceFile);
+    for (const LanguageSection &section : languageSections()) {
+        for (const LanguageEntry &entry : entriesOf(section)) {
+            const QString key = u"[%1]%2"_s.arg(section.name).arg(entry.index);
+            const QString text = texts[key].section(u'^', 0, 0);
+            if (word.match(text).hasMatch() && text == entry.caption) {
+                EXPECT_TRUE(shared.contains(QString(text).remove(ends).toLower()))
+                    << qPrintable(key + u' ' + text);
+            }
+            if (!entry.tip.isEmpty()) {
+                EXPECT_NE(texts[key].section(u'^', 1), entry.tip) << qPrintable(key);
+            }
+        }
+    }
 }
 
 TEST_P(ShippedPack, LoadsAndFindsItsHelp)
@@ -209,6 +345,51 @@ TEST_P(ShippedPack, LoadsAndFindsItsHelp)
     EXPECT_EQ(run->editor.Command11.caption() + u'^' + run->editor.Command11.toolTip(),
               texts[u"[Edit Basic]1"_s]);
     EXPECT_EQ(run->language.text(LangGroup::Common, 39) + u'^', texts[u"[Other]39"_s]);
+}
+
+/// What a control shows of an entry: its caption, or that of the tab.
+QString shownBy(const Control &control, const LanguageRow &row)
+{
+    if (const auto *tabs = qobject_cast<const TabStrip *>(&control)) {
+        return tabs->tabCaption(row.tab) + u'^' + tabs->tabToolTip(row.tab);
+    }
+    const auto *captioned = qobject_cast<const CaptionControl *>(&control);
+    return (captioned && !row.caption.isNull() ? captioned->caption() : QString()) + u'^'
+           + control.toolTip();
+}
+
+TEST_P(ShippedPack, StandsOnEveryControlOfARunningProgram)
+{
+    TestProgram run;
+    QStringList lines = settingsWith(19, 1).split(u'\n');
+    lines[19] = packFile;
+    run.writeApp(u"System/Settings/set.sdf"_s, lines.join(u'\n'));
+    run.start();
+    run->splash.ExitfrmSplash();
+    LoadRequest request{.path = run.write(u"film.srt"_s, twoSubtitles())};
+    run->loader.LoadSubFile(request);
+    for (int tab = 0; tab < run->navigation.tabMain.count(); ++tab) {
+        run->navigation.tabMain.pick(tab);
+    }
+    const QHash<QString, QString> texts = textsOf(sourceFile);
+    int compared = 0;
+    for (const LanguageSection &section : languageSections()) {
+        for (const LanguageRow &row : section.rows) {
+            const bool elsewhere = row.control.contains(u'.');
+            const QString full =
+                elsewhere ? row.control.toString() : u"%1.%2"_s.arg(section.form, row.control);
+            if (full == u"frmMain.Label27") {
+                continue; // the player's state, made from the language table
+            }
+            if (const Control *control = run->control(full)) {
+                EXPECT_EQ(shownBy(*control, row),
+                          texts[u"[%1]%2"_s.arg(section.name).arg(row.index)])
+                    << qPrintable(full);
+                ++compared;
+            }
+        }
+    }
+    EXPECT_GT(compared, 150);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ShippedPack, ::testing::ValuesIn(shippedPacks()),

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace kavro::test {
 namespace {
 
@@ -62,6 +64,53 @@ TEST_F(Navigating, PagesOfTheTreeBringTheirTabsToTheFront)
     }
 }
 
+TEST_F(Navigating, KeysWithoutANodeLeadToTheirTabs)
+{
+    Navigation &navigation = run->navigation;
+    navigation.selectNode(u"tm"_s);
+    EXPECT_EQ(run->editor.SSTab2.tab(), 4);
+    EXPECT_EQ(run->trace.lastActionCode, 5) << "that page has no code";
+    navigation.selectNode(u"info"_s);
+    EXPECT_EQ(navigation.tabClipboard.tab(), 3);
+    EXPECT_EQ(run->trace.lastActionCode, 23);
+    navigation.selectNode(u"subhelp"_s);
+    EXPECT_EQ(navigation.SSTab1.tab(), 1);
+    EXPECT_EQ(run->trace.lastActionCode, 39);
+    navigation.selectNode(u"none"_s);
+    EXPECT_EQ(run->trace.lastActionCode, 39);
+    EXPECT_EQ(run.takeMessages(), QStringList());
+}
+
+TEST_F(Navigating, TreeTellsWhatTheTabsShow)
+{
+    Navigation &navigation = run->navigation;
+    EditorPage &editor = run->editor;
+    const auto place = [&] { return navigation.TV1.node(navigation.TV1.selected()).key; };
+    EXPECT_EQ(place(), u"edit"_s) << "the page of the start";
+    struct Case
+    {
+        const char *name;
+        std::function<void()> act;
+        QString place;
+    };
+    for (const Case &given :
+         {Case{"a tab", [&] { navigation.tabMain.pick(4); }, u"diag"_s},
+          Case{"the program", [&] { navigation.tabMain.setTab(2); }, u"edit"_s},
+          Case{"an inner tab", [&] { editor.SSTab2.pick(1); }, u"sr"_s},
+          Case{"the other inner tabs", [&] { editor.SSTab3.pick(0); }, u"shift"_s},
+          Case{"a tab that stood", [&] { editor.SSTab2.pick(1); }, u"sr"_s},
+          Case{"the page without a node", [&] { editor.SSTab2.pick(4); }, u"sr"_s},
+          Case{"tabs behind the page", [&] { navigation.tabCalculator.setTab(1); }, u"sr"_s},
+          Case{"the bottom panel", [&] { navigation.tabClipboard.pick(1); }, u"sp"_s},
+          Case{"the same page", [&] { navigation.tabMain.pick(2); }, u"edit"_s},
+          Case{"a node", [&] { click(u"classic"_s); }, u"classic"_s}})
+    {
+        SCOPED_TRACE(given.name);
+        given.act();
+        EXPECT_EQ(place(), given.place);
+    }
+}
+
 TEST_F(Navigating, CommandsWithoutADocumentAreRefusedInWords)
 {
     for (const QString &key : {u"add"_s, u"save_sub"_s, u"print"_s, u"preview"_s}) {
@@ -76,7 +125,7 @@ TEST_F(Navigating, CommandsWithoutADocumentAreRefusedInWords)
     EXPECT_TRUE(texts.at(3).startsWith(u"You can not view any content"_s));
 
     run->dropFile(run.write(u"a.srt"_s, twoSubtitles()));
-    for (const QString &key : {u"add"_s, u"save_sub"_s, u"preview"_s, u"settings"_s, u"file"_s}) {
+    for (const QString &key : {u"add"_s, u"save_sub"_s, u"preview"_s, u"system"_s, u"file"_s}) {
         click(key);
     }
     EXPECT_EQ(run.doors.files.shown.size(), 2);
@@ -88,12 +137,12 @@ TEST_F(Navigating, NodesThatLeadNowhereYetAreKnown)
     const auto leads = [&](const QString &key) {
         return run->navigation.leadsSomewhere(run->navigation.TV1.find(key));
     };
-    for (const QString &key : {u"menu"_s, u"file"_s, u"new"_s, u"edit"_s, u"basic"_s, u"help"_s}) {
+    for (const QString &key :
+         {u"menu"_s, u"file"_s, u"new"_s, u"edit"_s, u"basic"_s, u"shift"_s, u"clip"_s, u"help"_s})
+    {
         EXPECT_TRUE(leads(key)) << key.toStdString();
     }
-    for (const QString &key :
-         {u"recent"_s, u"collection"_s, u"options"_s, u"calc"_s, u"adv"_s, u"shift"_s, u"clip"_s})
-    {
+    for (const QString &key : {u"recent"_s, u"collection"_s, u"calc"_s, u"adv"_s, u"sp"_s}) {
         EXPECT_FALSE(leads(key)) << key.toStdString();
     }
     run->navigation.addRecent(u"/a.srt"_s);
@@ -150,7 +199,9 @@ TEST_F(Navigating, CopyButtonsFollowThePage)
           Case{"advanced", navigation.tabMain, 0, u"Copy.To.Spreadsheet"_s, {}},
           Case{"classic", navigation.tabCalculator, 1, u"Copy.To.A"_s, u"Copy.To.B"_s},
           Case{"partition", navigation.tabMain, 1, u"Copy.To.Partitionlist"_s, {}},
-          Case{"editor again", navigation.tabMain, 2, u"Copy.To.Duration"_s, {}}})
+          Case{"editor again", navigation.tabMain, 2, u"Copy.To.Duration"_s, {}},
+          Case{"away", navigation.tabMain, 1, u"Copy.To.Partitionlist"_s, {}},
+          Case{"player", navigation.tabMain, 3, u"Copy.To.Duration"_s, {}}})
     {
         SCOPED_TRACE(given.name);
         given.tabs.pick(given.tab);
@@ -230,6 +281,10 @@ TEST_F(Navigating, AutoHelpOpensThePageOfWhatIsDone)
     EXPECT_EQ(lastPage(), u"file_load.htm"_s);
     run->menu.mnuSaveSettings.click();
     EXPECT_EQ(lastPage(), u"file_sset.htm"_s);
+    run->menu.mnuHistory.click();
+    EXPECT_EQ(lastPage(), u"main_his.htm"_s);
+    run->menu.mnuSettings.click();
+    EXPECT_EQ(lastPage(), u"main_set.htm"_s);
 }
 
 TEST_F(Navigating, HelpMenuOpensIndexTipsAndAbout)
@@ -243,7 +298,13 @@ TEST_F(Navigating, HelpMenuOpensIndexTipsAndAbout)
     EXPECT_EQ(run->trace.lastActionCode, 108);
     run.takeMessages();
     click(u"about"_s);
-    EXPECT_TRUE(run.takeMessages().constFirst().contains(u"Kavro 4.0"_s));
+    EXPECT_EQ(run->trace.lastActionCode, 110);
+    EXPECT_TRUE(run->frmAbout.isOpen());
+    EXPECT_EQ(run->about.lblTitle.caption(), u"Kavro 4.0"_s);
+    EXPECT_EQ(run->about.lblLanguage.caption(), u"Language pack: English"_s);
+    EXPECT_FALSE(run->about.lblAuthor.isVisible()) << "English is no pack of anybody's";
+    run->about.cmdOk.click();
+    EXPECT_FALSE(run->frmAbout.isOpen());
     run->help.show();
     EXPECT_TRUE(run.doors.help.opened.constLast().endsWith(u"/System/helpcenter.htm"_s));
     run->help.cmdOk.click();

@@ -43,6 +43,9 @@ TEST(SettingsFile, StoredFrameRateStaysInForce)
     EXPECT_EQ(run->settings.Combo2.selected(), 3);
     EXPECT_EQ(run->frameRates.Combo14[0].selected(), 3);
     EXPECT_EQ(run->frameRates.Combo14[1].selected(), 3);
+    run->frameRates.Combo14[1].pick(1);
+    run->settingsFiles.LoadSettingsFile();
+    EXPECT_EQ(run->frameRates.Combo14[1].selected(), 3) << "also when that rate is in force";
     EXPECT_NE(run->trace.lastActionCode, 315) << "a value that the program sets records nothing";
     run->frameRates.optFrameRate[0].click();
     EXPECT_EQ(run->document.frameRate, u"23.970"_s);
@@ -87,15 +90,18 @@ TEST(RecentFile, DropsMissingFilesWhenTheSettingSaysSo)
     for (const bool check : {false, true}) {
         TestProgram run;
         const QString there = run.write(u"there.srt"_s, twoSubtitles());
+        // No file system has such a name, so that nobody can tell whether it is there.
+        const QString unknown = u'/' + u"n"_s.repeated(300);
+        const QString stored = u"/gone.srt\n\n"_s + there + u'\n' + unknown + u'\n';
         run.writeApp(u"System/Settings/set.sdf"_s, settingsWith(8, check ? 1 : 0));
-        run.writeApp(u"System/recent.sdf"_s, u"/gone.srt\n\n"_s + there + u'\n');
+        run.writeApp(u"System/recent.sdf"_s, stored);
         run.start();
         const QStringList expected =
-            check ? QStringList{there} : QStringList{u"/gone.srt"_s, there};
+            check ? QStringList{there, unknown} : QStringList{u"/gone.srt"_s, there, unknown};
         EXPECT_EQ(run->navigation.Combo13.items(), expected);
         EXPECT_TRUE(run->exit());
         EXPECT_EQ(TestProgram::read(run.appPath(u"System/recent.sdf"_s)),
-                  check ? there + u'\n' : u"/gone.srt\n\n"_s + there + u'\n');
+                  check ? there + u'\n' + unknown + u'\n' : stored);
     }
 }
 

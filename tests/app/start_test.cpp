@@ -83,7 +83,16 @@ TEST(Start, FileThatIsNotThereIsTold)
     EXPECT_TRUE(run->frmMain.isOpen());
     EXPECT_EQ(run.takeMessages().size(), 1);
     EXPECT_EQ(run->document.subtitleCount(), 0);
-    EXPECT_FALSE(run->menu.mnuAddFile.isEnabled());
+    const Button *const waiting[] = {&run->menu.mnuAddFile, &run->menu.mnuSearch,
+                                     &run->menu.mnuReplace, &run->menu.mnuSearchAgain,
+                                     &run->menu.mnuGotoLine};
+    for (const Button *entry : waiting) {
+        EXPECT_FALSE(entry->isEnabled()) << entry->name().toStdString();
+    }
+    run->menu.mnuNewFile.click();
+    for (const Button *entry : waiting) {
+        EXPECT_TRUE(entry->isEnabled()) << entry->name().toStdString();
+    }
 }
 
 TEST(Start, LastFilesAreLoadedWhenTheSettingSaysSo)

@@ -176,6 +176,37 @@ TEST_F(Convert, TextThatTheEncodingLacksIsNotWrittenUnlessTheAnswerIsYes)
     EXPECT_EQ(read(u"out.txt"_s), "00:00:01,0=Привет\n00:00:02,0=\n");
 }
 
+// The rate decides on both sides: frames are read by it and written by it.
+TEST_F(Convert, TakesTheFrameRate)
+{
+    write(u"a.srt"_s, "1\n00:00:01,600 --> 00:00:02,400\nx\n\n");
+    const struct
+    {
+        QString call;
+        QString file;
+        const char *text;
+        const char *err = "";
+    } cases[] = {
+        {u"a.srt --to 3 -o micro"_s, u"micro.sub"_s, "{40}{60}x\n"},
+        {u"a.srt --to 3 --fps 30 -o film"_s, u"film.sub"_s, "{48}{72}x\n"},
+        {u"a.srt --to 3 --fps 23.97 -o b"_s, u"b.sub"_s, "{38}{57}x\n",
+         "a.srt: MicroDVD can't hold the milliseconds of 1 subtitle.\n"},
+        {u"a.srt --to 4 --fps 30.000 -o c"_s, u"c.pjs"_s, "     48,     72, \"x\"\n"},
+        {u"a.srt --to 8 --fps 30 -o d"_s, u"d.sub"_s, "0001  00:00:01:18  00:00:02:12  x\n\n"},
+        {u"micro.sub --to 9 -o e"_s, u"e.srt"_s, "1\n00:00:01,600 --> 00:00:02,400\nx\n\n"},
+        {u"micro.sub --to 9 --fps 24 -o f"_s, u"f.srt"_s,
+         "1\n00:00:01,666 --> 00:00:02,500\nx\n\n"},
+        {u"c.pjs --to 9 --fps 30 -o g"_s, u"g.srt"_s, "1\n00:00:01,600 --> 00:00:02,400\nx\n\n"},
+        {u"d.sub --to 9 --fps 24 -o h"_s, u"h.srt"_s, "1\n00:00:01,750 --> 00:00:02,500\nx\n\n"},
+    };
+    for (const auto &c : cases) {
+        EXPECT_EQ(convert(c.call), (CliRun{.status = 0, .out = {}, .err = c.err}))
+            << qPrintable(c.file);
+        EXPECT_EQ(read(c.file), c.text);
+    }
+    EXPECT_EQ(convert(u"a.srt --to 3 --fps 26 -o i"_s).status, 2);
+}
+
 TEST_F(Convert, TheLinesDecideWhenAskedTo)
 {
     QFile::rename(u"player.txt"_s, u"player.srt"_s);

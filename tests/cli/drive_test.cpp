@@ -124,7 +124,7 @@ TEST_F(Drive, TheSameSeedGivesTheSameChoices)
     EXPECT_EQ(drive(script), drive(script));
 }
 
-/// A program whose hidden menu entry mnuUndo runs frmHelp as a modal form.
+/// A program whose hidden menu entry mnuSystem runs frmHelp as a modal form.
 class ModalDrive : public CliTest
 {
 protected:
@@ -139,7 +139,7 @@ protected:
         program.startForVerb();
         DriveScript commands(in, {.program = program, .ports = ports, .err = err});
         ports.forms.runCommands = [&](Form &form) { commands.runForm(form); };
-        Button &entry = program.menu.mnuUndo;
+        Button &entry = program.menu.mnuSystem;
         entry.setVisible(true);
         QObject::connect(&entry, &Button::clicked, &entry, [&] {
             entry.setToolTip(u"running"_s);
@@ -156,7 +156,7 @@ protected:
 
 TEST_F(ModalDrive, StaysOpenWhileCommandsActOnIt)
 {
-    const CliRun result = drive("press frmHelp.cmdOk\npress mnuUndo\nget mnuUndo\n"
+    const CliRun result = drive("press frmHelp.cmdOk\npress mnuSystem\nget mnuSystem\n"
                                 "press frmHelp.cmdOk\npress frmHelp.cmdOk\n");
     EXPECT_EQ(result.status, 0);
     EXPECT_TRUE(wasClosed);
@@ -170,17 +170,17 @@ TEST_F(ModalDrive, StaysOpenWhileCommandsActOnIt)
 
 TEST_F(ModalDrive, TheEndOfTheScriptClosesIt)
 {
-    EXPECT_EQ(drive("press mnuUndo\n# nothing follows\n").status, 0);
+    EXPECT_EQ(drive("press mnuSystem\n# nothing follows\n").status, 0);
     EXPECT_TRUE(wasClosed);
 }
 
 TEST_F(ModalDrive, AWrongLineAndQuitEndAllLevels)
 {
-    const CliRun wrong = drive("press mnuUndo\nfly away\nget mnuUndo\n");
+    const CliRun wrong = drive("press mnuSystem\nfly away\nget mnuSystem\n");
     EXPECT_EQ(
         wrong,
         (CliRun{.status = 2, .out = {}, .err = "kavro-cli drive: line 2: no command \"fly\"\n"}));
-    EXPECT_EQ(drive("press mnuUndo\nquit\nget mnuUndo\n"),
+    EXPECT_EQ(drive("press mnuSystem\nquit\nget mnuSystem\n"),
               (CliRun{.status = 0, .out = {}, .err = {}}));
 }
 

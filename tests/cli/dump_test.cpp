@@ -1,3 +1,4 @@
+#include "formats/format_table.h"
 #include "tests/cli/cli_fixture.h"
 
 #include <QJsonArray>
@@ -89,6 +90,24 @@ TEST_F(Dump, AFolderOfItsOwnIsMadeAndFilled)
     dump(u"film.srt --app-dir app"_s);
     EXPECT_TRUE(filesIn(u"app"_s).contains(u"System"_s));
     EXPECT_EQ(filesIn(u"app/Data/Temporarily"_s), QStringList());
+}
+
+// The files that the writers are held against, under a name that tells nothing.
+TEST_F(Dump, NamesTheFormatThatItFound)
+{
+    for (const FormatInfo &info : formatTable()) {
+        const QString name = info.name.toString();
+        SCOPED_TRACE(name.toStdString());
+        const QString golden = QStringLiteral(KAVRO_SOURCE_DIR "/tests/formats/golden/")
+                               + name.toLower().replace(u' ', u'-') + SetSubFileExt(info.id);
+        const QString file = u"film%1"_s.arg(info.id);
+        ASSERT_TRUE(QFile::copy(golden, file));
+        // The trailer of the one is a bad line to its own reader.
+        const QJsonObject document = dump(file, info.id == SubViewer1 ? 1 : 0);
+        EXPECT_EQ(document[u"format"].toInt(), info.id);
+        EXPECT_EQ(document[u"formatName"].toString(), name);
+        EXPECT_FALSE(document[u"rows"].toArray().isEmpty());
+    }
 }
 
 } // namespace

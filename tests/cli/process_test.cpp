@@ -1,5 +1,6 @@
 // The program itself, as a process of its own.
 
+#include "formats/format_table.h"
 #include "tests/cli/cli_fixture.h"
 
 #include <QCoreApplication>
@@ -66,6 +67,17 @@ TEST_F(Process, ConvertToStandardOutputPrintsTheFileAlone)
     EXPECT_EQ(filesIn(u"home"_s) + filesIn(u"tmp"_s), QStringList());
 }
 
+TEST_F(Process, RepairedScriptStandsBehindItsFindings)
+{
+    process.setStandardOutputFile(u"all.txt"_s);
+    EXPECT_EQ(call({u"diagnose"_s, u"small.srt"_s, u"-o"_s, u"/dev/stdout"_s}).status, 0);
+    const std::string all = read(u"all.txt"_s);
+    EXPECT_TRUE(all.starts_with('/')) << all; // the input's path, with nothing over it
+    EXPECT_TRUE(all.ends_with("\n\nNo findings remain.\n"
+                              "1\n00:00:00,500 --> 00:00:01,000\nSmall\n\n"))
+        << all;
+}
+
 TEST_F(Process, ReadsAPipe)
 {
     process.setStandardInputFile(u"small.srt"_s);
@@ -104,6 +116,60 @@ TEST_F(Process, AFullStandardOutputIsAFailure)
     EXPECT_EQ(
         call({u"dump"_s, u"film.srt"_s}),
         (CliRun{.status = 1, .out = {}, .err = "kavro-cli: standard output can't be written\n"}));
+}
+
+// A load may use twelve times the file and 64 MiB: over long lines, and over as many lines as all
+// formats take. The limit is on memory of the process's own, whatever the libraries map.
+TEST_F(Process, EveryReaderKeepsItsMemory)
+{
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the shadow memory counts too";
+#endif
+    const QByteArray times = "1\n00:00:01,000 --> 00:00:02,000\n";
+    write(u"film.srt"_s, (times + QByteArray(800000, 'x') + "\n\n").repeated(4)
+                             + (times + "a\n\n").repeated(2480));
+    // The status is 0, or 1 with a bad line; another one when the memory did not suffice.
+    process.setStandardOutputFile(QProcess::nullDevice());
+    const auto isDumped = [&](const QString &file, qint64 kibibytes) {
+        const QStringList script{u"-c"_s, u"ulimit -d \"$0\" && \"$@\""_s};
+        process.start(u"/bin/sh"_s,
+                      script + QStringList{QString::number(kibibytes), m_program, u"dump"_s, file});
+        return finish().status <= 1;
+    };
+    EXPECT_FALSE(isDumped(u"film.srt"_s, 16 << 10)) << "the limit is none";
+    for (const FormatInfo &info : formatTable()) {
+        const QString id = QString::number(info.id);
+        const CliRun made = run({u"convert"_s, u"film.srt"_s, u"--to"_s, id, u"-o"_s, id});
+        EXPECT_EQ(made, (CliRun{.status = 0, .out = {}, .err = {}}));
+        const QString file = id + SetSubFileExt(info.id);
+        const qint64 size = QFileInfo(file).size();
+        EXPECT_TRUE(isDumped(file, (12 * size >> 10) + (64 << 10))) << qPrintable(file);
+    }
+}
+
+TEST_F(Process, KilledInTheMiddleBringsItsChangesBack)
+{
+    const QStringList drive{u"drive"_s, u"--app-dir"_s, u"app"_s};
+    process.start(m_program, drive);
+    ASSERT_TRUE(process.waitForStarted());
+    process.write("load small.srt\ncell grdSubEdit 1 3\nset rtfSubEditBasic Changed\n"
+                  "press Command14\ntick timRecovery\nget Label74\n");
+    const QString kept = u"app/System/Recovery/1.rec"_s;
+    for (int i = 0; i < 500 && !QFile::exists(kept); ++i) {
+        process.waitForReadyRead(10);
+    }
+    ASSERT_TRUE(QFile::exists(kept));
+    process.kill();
+    ASSERT_TRUE(process.waitForFinished());
+    ASSERT_EQ(process.exitStatus(), QProcess::CrashExit);
+
+    process.start(m_program, drive + QStringList{u"--answer"_s, u"yes"_s});
+    process.write("get grdSubEdit\nset rtfSubEditBasic More\npress Command14\nanswer no\nquit\n");
+    const CliRun run = finish();
+    EXPECT_EQ(run.status, 0);
+    EXPECT_NE(run.out.find("Changed "), std::string::npos) << run.out;
+    // The clean exit leaves neither the changes nor the lock.
+    EXPECT_TRUE(QDir(u"app/System/Recovery"_s).isEmpty());
 }
 
 } // namespace

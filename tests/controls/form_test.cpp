@@ -80,5 +80,22 @@ TEST(Form, WhoHearsALossMaySendTheFocusElsewhere)
     EXPECT_EQ(gotB, 0);
 }
 
+TEST(Form, IsBusyUntilTheLastWhoSaidSoIsDone)
+{
+    Form form(u"frmMain"_s);
+    QStringList heard;
+    QObject::connect(&form, &Form::busyChanged, &form,
+                     [&heard](bool busy) { heard.append(busy ? u"busy"_s : u"free"_s); });
+    {
+        const Form::Busy outer(form);
+        {
+            const Form::Busy inner(form);
+        }
+        EXPECT_TRUE(form.isBusy());
+    }
+    EXPECT_FALSE(form.isBusy());
+    EXPECT_EQ(heard.join(u' ').toStdString(), "busy free");
+}
+
 } // namespace
 } // namespace kavro

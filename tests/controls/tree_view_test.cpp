@@ -93,5 +93,26 @@ TEST_F(TreeViewTest, SelectionGoesWithItsNode)
     EXPECT_EQ(tree.selected(), TreeView::noNode);
 }
 
+TEST_F(TreeViewTest, BatchIsToldOnce)
+{
+    QObject::connect(&tree, &TreeView::added, &tree, [this] { heard.append(u"added"_s); });
+    QObject::connect(&tree, &TreeView::expanded, &tree,
+                     [this](int number) { heard.append(u"expanded %1"_s.arg(number)); });
+    {
+        const TreeView::Batch outer(tree);
+        tree.clear();
+        const TreeView::Batch inner(tree);
+        menu = tree.add(TreeView::noNode, u"New"_s);
+        tree.expand(menu);
+    }
+    EXPECT_EQ(takeHeard(), "reset");
+    EXPECT_TRUE(tree.node(menu).expanded);
+    main = tree.add(TreeView::noNode, u"Next"_s);
+    tree.expand(menu);
+    tree.expand(main);
+    tree.expand(99);
+    EXPECT_EQ(takeHeard(), "added; expanded 1");
+}
+
 } // namespace
 } // namespace kavro

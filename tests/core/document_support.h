@@ -8,6 +8,7 @@
 #include "core/player_page.h"
 #include "core/settings_page.h"
 #include "core/time_page.h"
+#include "tests/support/document_text.h"
 
 #include <QString>
 #include <QStringList>
@@ -71,12 +72,7 @@ protected:
     /// "row,col=RRGGBB" of the cells with a colour.
     [[nodiscard]] std::string colours() const
     {
-        QStringList cells;
-        for (const auto &[row, col] : grid.coloredCells()) {
-            cells.append(
-                QStringLiteral("%1,%2=%3").arg(row).arg(col).arg(grid.cellColor(row, col).text()));
-        }
-        return cells.join(u' ').toStdString();
+        return test::colourLines(grid).join(u' ').toStdString();
     }
 
     Form frmMain{QStringLiteral("frmMain")};

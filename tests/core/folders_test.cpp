@@ -11,6 +11,7 @@
 #include <memory>
 
 using namespace Qt::StringLiterals;
+using namespace std::string_literals;
 
 namespace kavro {
 namespace {
@@ -105,7 +106,7 @@ TEST_F(FoldersTest, FolderMadeByHandStaysAsItIs)
     auto folders = make();
     EXPECT_EQ(folders->path(Folder::Settings, u"set.sdf"),
               disk.path("given/SYSTEM/settings/SET.sdf"));
-    EXPECT_EQ(disk.entries("given/SYSTEM"), "Language Nodes settings");
+    EXPECT_EQ(disk.entries("given/SYSTEM"), "Language Nodes Recovery settings");
     EXPECT_EQ(folders->path(Folder::Help, u"English\\tip.sdf"),
               disk.path("given/SYSTEM/Language/Help/English/tip.sdf"));
 }
@@ -133,6 +134,9 @@ TEST_F(FoldersTest, TemporaryFilesGoAtStartAndExit)
     EXPECT_EQ(disk.entries("home/kavro/Data/Temporarily"), "kavro.lock kept");
     EXPECT_EQ(disk.entries("home/kavro/Data/Drive"), "");
     disk.write("home/kavro/Data/Temporarily/Splitprv.001", "");
+    EXPECT_EQ(folders->path(Folder::Temporary, u"splitprv.001"),
+              disk.path("home/kavro/Data/Temporarily/splitprv.001"))
+        << "nobody looks through thousands of snapshots for another spelling";
     folders->tidy();
     EXPECT_EQ(disk.entries("home/kavro/Data/Temporarily"), "kept");
 }
@@ -195,6 +199,22 @@ TEST_F(FoldersTest, ShippedFolderIsOnlyRead)
     }
     EXPECT_EQ(disk.entries("tmp"), "");
     EXPECT_EQ(disk.entries("share/kavro/Data") + disk.entries("share/kavro/System"), before);
+}
+
+TEST_F(FoldersTest, RemovesFilesByPatternAndNeverShippedOnes)
+{
+    auto folders = make();
+    for (const char *name : {"splitprv.001", "Splitprv.two", "splitprv", "xsplitprv.001"}) {
+        disk.write(("home/kavro/"s + name).c_str(), "old");
+        disk.write(("share/kavro/"s + name).c_str(), "shipped");
+    }
+    disk.makeFolder("home/kavro/splitprv.folder");
+    folders->removeFiles(Folder::Root, u"splitprv.*");
+    EXPECT_EQ(disk.entries("home/kavro"),
+              "Data System Systemtem splitprv splitprv.folder xsplitprv.001");
+    const std::string shipped = disk.entries("share/kavro");
+    make(FolderUse::Shipped)->removeFiles(Folder::Root, u"splitprv.*");
+    EXPECT_EQ(disk.entries("share/kavro"), shipped);
 }
 
 TEST_F(FoldersTest, AppDirIsUsedAlsoWhereTheShippedOneWouldBe)

@@ -41,6 +41,21 @@ TEST(SafeFile, ReplacesWithTheWholeFile)
     EXPECT_EQ(folder.entries(), "a");
 }
 
+// A long text goes in pieces; wherever one ends, a character of two units stays whole.
+TEST(SafeFile, LongTextsStayWhole)
+{
+    const TestFolder folder;
+    FileStore store;
+    for (const QString &head : {QString(), u"a"_s}) {
+        const QString text = head + u"\U0001F600"_s.repeated(150000);
+        FileWriter writer(store);
+        writer.open(folder.path("a"));
+        EXPECT_TRUE(writer.write(text));
+        EXPECT_TRUE(writer.commit().ok());
+        EXPECT_TRUE(folder.read("a") == text.toStdString());
+    }
+}
+
 TEST(SafeFile, MarkStandsAheadAlsoOfNothing)
 {
     const TestFolder folder;

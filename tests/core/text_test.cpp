@@ -129,6 +129,25 @@ TEST(Text, InStrCountsFromOne)
     EXPECT_EQ(InStr(u"", u"a"), 0);
 }
 
+TEST(Text, LowerCaseKeepsEveryPosition)
+{
+    const struct
+    {
+        QString text, lower;
+    } rows[] = {
+        {u"aZ[`{@ 1"_s, u"az[`{@ 1"_s},
+        {u"\u00C4\u0398\u0416\u05D0"_s, u"\u00E4\u03B8\u0436\u05D0"_s},
+        {u"\u0130I\u0131"_s, u"ii\u0131"_s},
+        {u"\u1E9E\u00DF"_s, u"\u00DF\u00DF"_s},
+        {u"\U00010400x"_s, u"\U00010428x"_s},
+        {u"A"_s + QChar(0xD801), u"a"_s + QChar(0xD801)},
+        {u""_s, u""_s},
+    };
+    for (const auto &row : rows) {
+        EXPECT_EQ(lowerCase(row.text), row.lower);
+    }
+}
+
 TEST(Text, LineBreaksAreExpanded)
 {
     EXPECT_EQ(expandLineBreaks(u"a/nb/n/n/N"), u"a\r\nb\r\n\r\n/N"_s);

@@ -50,5 +50,24 @@ TEST(Golden, EveryWriterMakesItsFile)
     }
 }
 
+// The page for people who choose a format shows what is written; of JACOSub's header it leaves
+// lines out.
+TEST(Golden, TheDocumentedExamplesAreWritten)
+{
+    const std::string page =
+        FormatsFixture::read(QStringLiteral(KAVRO_SOURCE_DIR "/docs/formats.md"));
+    for (const FormatInfo &info : formatTable()) {
+        SCOPED_TRACE(info.name.toString().toStdString());
+        FormatsFixture fixture;
+        fixture.setRows(
+            {{u"1"_s, u"00:00:01,480"_s, u"00:00:03,525"_s, u" Hello."_s, u" Who is there?"_s}});
+        std::string written = fixture.written(info.id);
+        std::erase(written, '\r');
+        if (info.id == JacoSub)
+            written = written.substr(written.find("0:00"));
+        EXPECT_NE(page.find("```\n" + written + "```"), std::string::npos) << written;
+    }
+}
+
 } // namespace
 } // namespace kavro::test

@@ -264,6 +264,17 @@ TEST(Load, KeepsTheLimit)
     EXPECT_FALSE(fixture.document.editorBlocked);
 }
 
+// A lone start becomes a row, so half a subtitle counts as one.
+TEST(Load, KeepsTheLimitWhereHalvesCount)
+{
+    FormatsFixture fixture;
+    const QString full = u"<SYNC START=1>\n<P>a\n<SYNC START=2>\n<P>\n"_s.repeated(9999);
+    EXPECT_EQ(fixture.load(fixture.write(u"full.smi"_s, full), Sami).kind, Kind::Loaded);
+    EXPECT_EQ(fixture.document.subtitleCount(), 9999);
+    const QString half = full + u"<SYNC START=3>\n"_s;
+    EXPECT_EQ(fixture.load(fixture.write(u"half.smi"_s, half), Sami).kind, Kind::LimitReached);
+}
+
 TEST(Load, KeepsTheLimitAgainstRowsThatNobodyCounted)
 {
     QString numbers = u"00:00:01,000 --> 00:00:02,000\n\n"_s;

@@ -40,22 +40,22 @@ TEST(RealTime, ReadsTimesByPlaceAndTextByItsTag)
 
 TEST(Sami, ReadsFourLinesASubtitle)
 {
-    expectRows(Sami,
-               {
-                   {"two subtitles and the end",
-                    u"<SAMI>\n<BODY>\n<SYNC START=1500>\n<P>a<br>b\n<SYNC START=2500>\n<P>&nbsp;\n"
-                    "<SYNC START=3000>\n<p>c\n<SYNC START=4000>\n<P>&nbsp;\n</Body>\n</SAMI>\n"_s,
-                    "00:00:01,500 00:00:02,500| a| b\n00:00:03,000 00:00:04,000| c"},
-                   {"a class in the tag leaves the text from character 3 on",
-                    u"<SYNC START=1500>\n<P Class=X>a\n<SYNC START=2500>\n<P>\n"_s,
-                    "00:00:01,500 00:00:02,500| Class=X>a"},
-                   {"the last character of a sync line is cut whatever it is",
-                    u"<SYNC START=1500\n<P>a\n<SYNC START=2500 >\n<P>\n"_s,
-                    "00:00:00,150 00:00:02,500| a"},
-                   {"cut behind the text", u"<SYNC START=1500>\n<P>a\n"_s, "00:00:01,500 | a", 1},
-                   {"cut behind the end", u"<SYNC START=1500>\n<P>a\n<SYNC START=2500>\n"_s,
-                    "00:00:01,500 00:00:02,500| a", 1},
-               });
+    expectRows(
+        Sami, {
+                  {"two subtitles and the end",
+                   u"<SAMI>\n<BODY>\n<SYNC START=1500>\n<P>a<br>b\n<SYNC START=2500>\n<P>&nbsp;\n"
+                   "<SYNC START=3000>\n<i><p>c\n<SYNC START=4000>\n<P>&nbsp;\n</Body>\n</SAMI>\n"_s,
+                   "00:00:01,500 00:00:02,500| a| b\n00:00:03,000 00:00:04,000| c"},
+                  {"a class in the tag leaves the text from character 3 on",
+                   u"<SYNC START=1500>\n<P Class=X>a\n<SYNC START=2500>\n<P>\n"_s,
+                   "00:00:01,500 00:00:02,500| Class=X>a"},
+                  {"the last character of a sync line is cut whatever it is",
+                   u"<SYNC START=1500\n<P>a\n<SYNC START=2500 >\n<P>\n"_s,
+                   "00:00:00,150 00:00:02,500| a"},
+                  {"cut behind the text", u"<SYNC START=1500>\n<P>a\n"_s, "00:00:01,500 | a", 1},
+                  {"cut behind the end", u"<SYNC START=1500>\n<P>a\n<SYNC START=2500>\n"_s,
+                   "00:00:01,500 00:00:02,500| a", 1},
+              });
 }
 
 TEST(Sami, TakesTheSizeOfTheLastHeaderLine)

@@ -3,7 +3,9 @@
 #include "controls/form.h"
 #include "core/action_trace.h"
 #include "core/control_window.h"
+#include "core/diagnose_host.h"
 #include "core/document.h"
+#include "core/edit_history.h"
 #include "core/editor_page.h"
 #include "core/folders.h"
 #include "core/font_lists.h"
@@ -127,6 +129,7 @@ struct DocumentFixture
 
     QTemporaryDir folder;
     ScriptedMessages messageWindow;
+    ScriptedForms formWindows;
     FakeClock clock;
     FileStore store;
     Folders folders{store,
@@ -141,6 +144,7 @@ struct DocumentFixture
     Form frmControl{QStringLiteral("frmControl")};
     Form frmMessageBox{QStringLiteral("frmMessageBox")};
     Form frmSettings{QStringLiteral("frmSettings")};
+    Form frmHistory{QStringLiteral("frmHistory")};
     LanguageTable language;
     ActionTrace trace;
     MacroVariables variables;
@@ -155,6 +159,16 @@ struct DocumentFixture
     Messages messages{frmMessageBox, messageWindow, trace, variables};
     ControlWindow control{frmControl, settings};
     SubtitleDocument document{editor, times, fonts, player, settings, language, trace};
+    DiagnoseHost diagnose;
+    EditHistory history{frmHistory,
+                        {.document = document,
+                         .forms = formWindows,
+                         .clock = clock,
+                         .folders = folders,
+                         .store = store,
+                         .messages = messages,
+                         .diagnose = diagnose,
+                         .versionNumber = QStringLiteral("4.00")}};
 };
 
 } // namespace kavro::test

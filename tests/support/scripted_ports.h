@@ -115,9 +115,15 @@ public:
 class FakeClock : public Clock
 {
 public:
-    [[nodiscard]] QDateTime now() const override { return time; }
+    [[nodiscard]] QDateTime now() const override
+    {
+        const QDateTime read = time;
+        time = time.addMSecs(step);
+        return read;
+    }
 
-    QDateTime time{QDate(2024, 3, 1), QTime(12, 30, 15)};
+    mutable QDateTime time{QDate(2024, 3, 1), QTime(12, 30, 15)};
+    int step = 0; ///< milliseconds from one reading to the next
 };
 
 /// Gives the same number until it is told another.

@@ -26,7 +26,7 @@ protected:
     Editor()
     {
         run.start(run.write(u"film.srt"_s, twoSubtitles()));
-        page = new EditorPageView(run->document, &window);
+        page = new EditorPageView(run.program(), &window);
         auto *layout = new QVBoxLayout(&window);
         layout->addWidget(page);
         new FormFocus(run->frmMain, window);
@@ -161,7 +161,8 @@ TEST_F(Editor, EditBoxGoesOnWithTheCellsText)
     type(u"in the box"_s);
     QTest::mouseClick(change, Qt::LeftButton);
     EXPECT_EQ(cell(1, 3).trimmed(), u"in the box"_s);
-    box->setFocus();
+    EXPECT_TRUE(box->hasFocus()) << "a click on a button leaves the focus where it is";
+    box->selectAll();
     type(u"by Enter"_s);
     press(Qt::Key_Return);
     EXPECT_EQ(cell(1, 3).trimmed(), u"by Enter"_s);

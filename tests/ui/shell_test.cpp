@@ -8,6 +8,7 @@
 #include "ui/tip_view.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -83,6 +84,25 @@ TEST_F(Shells, StartWithoutAFileGoesByTheSplashToTheTips)
     auto *tips = openWindow<TipView>();
     ASSERT_NE(tips, nullptr);
     EXPECT_EQ(tips->parentWidget(), shell.mainWindow());
+}
+
+TEST_F(Shells, ViewsSpeakTheLanguageOfThePack)
+{
+    folders.prepare();
+    const QString pack = folders.path(Folder::Language, u"Dutch.lng");
+    QStringList lines = settingsWith(19, 1).split(u'\n');
+    lines[19] = pack;
+    QFile settings(folders.path(Folder::Settings, u"set.sdf"));
+    ASSERT_TRUE(settings.open(QIODevice::WriteOnly));
+    settings.write(lines.join(u'\n').toUtf8());
+    settings.close();
+    shell.program().start(film());
+    QStringList labels;
+    for (const QLabel *label : shell.mainWindow()->findChildren<QLabel *>()) {
+        labels.append(QString(label->text()).remove(u'&'));
+    }
+    EXPECT_TRUE(labels.contains(u"Duur"_s)) << labels.join(u'|').toStdString();
+    EXPECT_FALSE(labels.contains(u"Duration"_s));
 }
 
 TEST_F(Shells, HelpCentreShowsItsPage)

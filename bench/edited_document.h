@@ -1,0 +1,53 @@
+#pragma once
+
+#include "controls/form.h"
+#include "core/edit_history.h"
+#include "core/status_panels.h"
+#include "core/text.h"
+#include "core/timecode.h"
+#include "tests/support/document_fixture.h"
+
+#include <benchmark/benchmark.h>
+
+namespace kavro::bench {
+
+inline QString timeAt(int ms)
+{
+    return SecondsToTimeCode(secondsText(ms / 1000.0));
+}
+
+/// A document of so many lines, as a loader leaves it.
+struct EditedDocument : test::DocumentFixture
+{
+    explicit EditedDocument(int count)
+    {
+        for (int row = 1; row <= count; ++row) {
+            lines.append({QString::number(row), timeAt(row * 700), timeAt(row * 700 + 600),
+                          QStringLiteral(" We never thought it could end here "),
+                          row % 3 == 0 ? QStringLiteral("before the lights went out ") : QString(),
+                          QString()});
+        }
+        setRows(lines);
+        loaded = editor.grdSubEdit.allRows();
+    }
+
+    /// Runs `act` on the document as it was loaded, rows shared as with a store that keeps them.
+    template <class Act>
+    void measure(benchmark::State &state, Act act)
+    {
+        for (auto _ : state) {
+            state.PauseTiming();
+            editor.grdSubEdit.setAllRows(loaded);
+            state.ResumeTiming();
+            act();
+        }
+    }
+
+    QList<GridRow> lines;
+    QList<GridRow> loaded;
+    Form frmBareHistory{QStringLiteral("frmHistory")};
+    EditHistory bareHistory{frmBareHistory}; ///< keeps no snapshots
+    StatusPanels status{frmMain};
+};
+
+} // namespace kavro::bench

@@ -1,0 +1,169 @@
+#include "app/recovery.h"
+
+#include "core/editor_page.h"
+#include "core/folders.h"
+#include "core/messages.h"
+#include "core/ports.h"
+#include "core/safe_file.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <utility>
+
+namespace kavro {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int tick = 3000; ///< milliseconds between two writings
+constexpr int mostPrograms = 100;
+
+} // namespace
+
+Recovery::Recovery(Form &frmMain, Parts parts)
+    : timRecovery(frmMain, u"timRecovery"_s, tick), m_parts(std::move(parts))
+{
+    m_writer.setMaxThreadCount(1);
+    QObject::connect(&timRecovery, &Timer::fired, &timRecovery, [this] { keep(); });
+}
+
+Recovery::~Recovery()
+{
+    finishWriting();
+}
+
+bool Recovery::begin(const QString &namedFile)
+{
+    bool broughtBack = false;
+    const QDir folder(m_parts.folders.path(Folder::Recovery));
+    bool goOn = true;
+    for (const QString &name : folder.entryList({u"*.rec"_s}, QDir::Files, QDir::Time)) {
+        const int number = QFileInfo(name).baseName().toInt();
+        // Somebody who runs holds the lock of a file in use.
+        if (goOn && lock(number)) {
+            broughtBack = offer(fileOf(number), namedFile, goOn);
+            if (broughtBack) {
+                m_number = number;
+                break;
+            }
+            m_lock.reset();
+        }
+    }
+    if (!broughtBack) {
+        takeNumber();
+    }
+    watch();
+    followChanges(m_parts.document.fileChanged());
+    return broughtBack;
+}
+
+bool Recovery::offer(const QString &file, const QString &namedFile, bool &goOn)
+{
+    const std::optional<KeptDocument> kept = readRecovery(file);
+    if (!kept) {
+        // It stays under another name: what nobody can read today is still not ours to delete.
+        QFile::remove(file + u".bad"_s);
+        QFile::rename(file, file + u".bad"_s);
+        return false;
+    }
+    if (!namedFile.isEmpty() && QFileInfo(namedFile) != QFileInfo(kept->subFileName)) {
+        return false;
+    }
+    const Answer answer = m_parts.messages.ShowMessage(
+        {u"The program ended before the changes of this file were saved:/n%1/n%2 subtitles, kept "
+         u"at "
+         "%3./nDo you want to bring them back? If you choose 'No', they are lost."_s,
+         {kept->subFileName, QString::number(kept->subtitleCount()),
+          kept->time.toString(u"yyyy-MM-dd HH:mm:ss"_s)}},
+        Answer::Yes, u"yesnocancel"_s, u"Unsaved changes"_s);
+    if (answer == Answer::Yes) {
+        m_parts.bringBack(*kept);
+        return true;
+    }
+    if (answer == Answer::No) {
+        m_parts.store.remove(file);
+    }
+    goOn = answer == Answer::No;
+    return false;
+}
+
+bool Recovery::lock(int number)
+{
+    if (number < 1) {
+        return false;
+    }
+    const QString name = QString::number(number) + u".lock"_s;
+    auto lock = std::make_unique<QLockFile>(m_parts.folders.path(Folder::Recovery, name));
+    lock->setStaleLockTime(0); // a program may well run for days
+    if (!lock->tryLock()) {
+        return false;
+    }
+    m_lock = std::move(lock);
+    return true;
+}
+
+void Recovery::takeNumber()
+{
+    for (int number = 1; number < mostPrograms; ++number) {
+        if (!QFileInfo::exists(fileOf(number)) && lock(number)) {
+            m_number = number;
+            return;
+        }
+    }
+}
+
+void Recovery::watch()
+{
+    SubtitleDocument &document = m_parts.document;
+    const Grid &grid = document.editor.grdSubEdit;
+    const auto changed = [this] { m_dirty = true; };
+    QObject::connect(&grid, &Grid::cellChanged, &timRecovery, changed);
+    QObject::connect(&grid, &Grid::rowsInserted, &timRecovery, changed);
+    QObject::connect(&grid, &Grid::rowsRemoved, &timRecovery, changed);
+    QObject::connect(&grid, &Grid::reset, &timRecovery, changed);
+    QObject::connect(&document.editor.lstFont, &ListBox::itemsChanged, &timRecovery, changed);
+    QObject::connect(&document, &SubtitleDocument::nameChanged, &timRecovery, changed);
+    QObject::connect(&document, &SubtitleDocument::fileChangedChanged, &timRecovery,
+                     [this](bool unsaved) { followChanges(unsaved); });
+}
+
+void Recovery::followChanges(bool changed)
+{
+    m_dirty = changed;
+    timRecovery.setOn(changed && m_number > 0);
+    if (!changed && m_number > 0) {
+        m_writer.start([file = fileOf(m_number)] { QFile::remove(file); });
+    }
+}
+
+void Recovery::keep()
+{
+    if (!std::exchange(m_dirty, false)) {
+        return;
+    }
+    // A writing that fails is tried again with the next change; nobody is disturbed for it.
+    m_writer.start([file = fileOf(m_number),
+                    document = KeptDocument::of(m_parts.document, m_parts.ports.clock.now())] {
+        writeRecovery(file, document);
+    });
+}
+
+void Recovery::end()
+{
+    timRecovery.setOn(false);
+    if (m_number > 0) {
+        m_writer.start([file = fileOf(m_number)] { QFile::remove(file); });
+        finishWriting();
+    }
+    m_number = 0;
+    m_lock.reset();
+}
+
+QString Recovery::fileOf(int number) const
+{
+    return m_parts.folders.path(Folder::Recovery, QString::number(number) + u".rec"_s);
+}
+
+} // namespace kavro

@@ -1,0 +1,154 @@
+#include "tests/cli/cli_fixture.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace kavro::test {
+namespace {
+
+/// Line 2 begins ahead of line 1's end, line 3 is empty, line 4 ends ahead of its start.
+const QByteArray faulty = "{25}{75}one two\n{50}{100}three|four\n{125}{150}\n{200}{175}five\n";
+
+class DiagnoseCall : public CliTest
+{
+protected:
+    DiagnoseCall() { write(u"scan.sub"_s, faulty); }
+
+    /// `line` is split at blanks.
+    CliRun diagnose(const QString &line)
+    {
+        return run((u"diagnose "_s + line + u" --from microdvd"_s).split(u' '));
+    }
+};
+
+TEST_F(DiagnoseCall, PrintsTables)
+{
+    const std::string expected = "FOLDER/scan.sub\n"
+                                 "format           MicroDVD\n"
+                                 "lines            4\n"
+                                 "words            6\n" // the blanks where two texts meet make one
+                                 "multi lines      1\n"
+                                 "displaying time  00:00:04,000\n"
+                                 "frames           100 (25 fps)\n"
+                                 "\n"
+                                 "line  finding\n"
+                                 "   2  End.Time 0001 > Start.Time 0002. Diff = 00:00:01,000\n"
+                                 "   3  Complete line is empty\n"
+                                 "   4  End.Time < Start.Time. Diff = -1:59:58,000\n"
+                                 "\n"
+                                 "line  solution\n"
+                                 "   2  Mark [Repair.Overlapping] to repair\n"
+                                 "   3  Put spoken text in cel [3,3..5] or mark [Repair.Empty]\n"
+                                 "   4  Mark [Repair.Invalid] to repair\n"
+                                 "\n"
+                                 "Findings that remain: 3\n";
+    const QStringList before = filesIn();
+    EXPECT_EQ(diagnose(u"scan.sub"_s), (CliRun{.status = 1, .out = expected, .err = {}}));
+    EXPECT_EQ(filesIn(), before);
+}
+
+TEST_F(DiagnoseCall, TellsThatNothingIsWrong)
+{
+    const CliRun result = run({u"diagnose"_s, u"film.srt"_s});
+    EXPECT_EQ(result.status, 0) << result;
+    EXPECT_EQ(result.out.find("finding\n"), std::string::npos) << result;
+    EXPECT_NE(result.out.find("\n\nNo findings remain.\n"), std::string::npos) << result;
+}
+
+struct Repair
+{
+    const char *name;
+    QString call;
+    int status;
+    QStringList remaining; ///< the rows' texts behind the repair, in frames
+};
+
+class DiagnoseRepair : public DiagnoseCall, public testing::WithParamInterface<Repair>
+{};
+
+TEST_P(DiagnoseRepair, WritesTheRepairedScript)
+{
+    const Repair &repair = GetParam();
+    const CliRun result = diagnose(u"scan.sub -o out.txt "_s + repair.call);
+    EXPECT_EQ(result.status, repair.status) << result;
+    // The format sets the extension.
+    EXPECT_EQ(read(u"out.sub"_s), repair.remaining.join(u'\n').toStdString() + '\n');
+    EXPECT_EQ(read(u"scan.sub"_s), faulty.toStdString());
+}
+
+const Repair repairs[] = {
+    {"none",
+     u"--json"_s,
+     1,
+     {u"{25}{75}one two"_s, u"{50}{100}three|four"_s, u"{125}{150}"_s, u"{200}{175}five"_s}},
+    {"some",
+     u"--repair overlapping"_s,
+     1,
+     {u"{25}{50}one two"_s, u"{50}{100}three|four"_s, u"{125}{150}"_s, u"{200}{175}five"_s}},
+    {"all",
+     u"--repair Empty,invalid,overlapping"_s,
+     0,
+     {u"{25}{50}one two"_s, u"{50}{100}three|four"_s, u"{200}{200}five"_s}},
+    {"oneByOne",
+     u"--repair empty --repair invalid --repair overlapping"_s,
+     0,
+     {u"{25}{50}one two"_s, u"{50}{100}three|four"_s, u"{200}{200}five"_s}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Cases, DiagnoseRepair, testing::ValuesIn(repairs),
+                         [](const auto &one) { return one.param.name; });
+
+TEST_F(DiagnoseCall, ReplacesAFileOnlyWhenTold)
+{
+    const CliRun refused = diagnose(u"scan.sub --repair empty -o scan.sub"_s);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.err,
+              "scan.sub: FOLDER/scan.sub is there already, --overwrite replaces it.\n");
+    EXPECT_EQ(read(u"scan.sub"_s), faulty.toStdString());
+    diagnose(u"scan.sub --repair empty -o scan.sub --overwrite"_s);
+    EXPECT_EQ(read(u"scan.sub"_s).find("{125}"), std::string::npos);
+}
+
+TEST_F(DiagnoseCall, JsonHoldsTheTree)
+{
+    const CliRun result = diagnose(u"scan.sub --json"_s);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(std::ranges::count(result.out, '\n'), 1);
+    const QJsonObject object =
+        QJsonDocument::fromJson(QByteArray::fromStdString(result.out)).object();
+    EXPECT_EQ(object.keys(), (QStringList{u"errorCount"_s, u"file"_s, u"nodes"_s}));
+    EXPECT_EQ(object[u"errorCount"].toInt(), 3);
+    EXPECT_EQ(object[u"file"].toString(), u"FOLDER/scan.sub"_s);
+    const QJsonArray nodes = object[u"nodes"].toArray();
+    ASSERT_EQ(nodes.size(), 3);
+    EXPECT_EQ(nodes[2][u"key"].toString(), u"err"_s);
+    const QJsonValue line =
+        nodes[2][u"children"][0][u"children"][0][u"children"][0][u"children"][0];
+    EXPECT_EQ(line[u"key"].toString(), u"err_ 2"_s);
+    EXPECT_EQ(line[u"text"].toString(), u"Line 0002"_s);
+    EXPECT_TRUE(line[u"children"][0][u"key"].isNull());
+}
+
+// The run that deletes line 1 passes by the line that has moved up, the one within it doesn't.
+TEST_F(DiagnoseCall, CountsWhatOnlyARunWithinTheRunFinds)
+{
+    write(u"scan.sub"_s, "{1}{50}\n{60}{55}two\n{70}{80}three\n");
+    const CliRun result = diagnose(u"scan.sub --repair empty"_s);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.out.find("\nFindings that remain: 1\n"), std::string::npos) << result;
+}
+
+TEST_F(DiagnoseCall, WhatIsNotLoadedIsNotScanned)
+{
+    const CliRun missing = diagnose(u"none.sub -o out.sub"_s);
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_EQ(missing.out, "");
+    EXPECT_FALSE(missing.err.empty());
+    EXPECT_EQ(read(u"out.sub"_s), "-");
+}
+
+} // namespace
+} // namespace kavro::test

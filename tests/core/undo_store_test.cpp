@@ -1,0 +1,438 @@
+#include "core/undo_store.h"
+
+#include "tests/support/document_fixture.h"
+#include "tests/support/document_text.h"
+#include "tests/support/print.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace kavro {
+namespace {
+
+struct CountedScan : DiagnoseHost
+{
+    void GoDiagnose() override { ++runs; }
+    void diagnoseWithoutRepairs() override
+    {
+        ++quietRuns;
+        if (during) {
+            during();
+        }
+    }
+
+    std::function<void()> during;
+
+    int runs = 0;
+    int quietRuns = 0;
+};
+
+class UndoStoreTest : public testing::Test, public test::DocumentFixture
+{
+public:
+    UndoStoreTest() { open(3); }
+
+    /// Another document of so many subtitles, as a load leaves it.
+    void open(int count)
+    {
+        QList<GridRow> subtitles;
+        for (int row = 1; row <= count; ++row) {
+            const QString number = QString::number(row);
+            subtitles.append({number, u"start"_s, u"end"_s, u" "_s + number, u""_s, u""_s});
+        }
+        setRows(subtitles);
+        document.ShowNodeMarks(1);
+        grid.setCurrent(1, FirstTextColumn);
+        document.setFileChanged(false);
+        document.curFormatId = 9;
+        document.savedPath = u"film.srt"_s;
+        emit document.replaced();
+    }
+
+    /// One act that writes a text.
+    void write(int row, const QString &text)
+    {
+        const SubtitleDocument::Act act(document);
+        grid.setText(row, FirstTextColumn, text);
+        document.markEdited();
+    }
+
+    [[nodiscard]] std::string state() const
+    {
+        QStringList lines;
+        for (const GridRow &row : grid.allRows()) {
+            lines.append(row.join(u'|'));
+        }
+        lines += editor.lstFont.items();
+        lines += document.rowErrors();
+        lines += test::nodeLines(document);
+        lines += test::colourLines(grid);
+        lines.append(u"node %1, format %2 %3, %4 errors, font %5"_s.arg(document.curNode)
+                         .arg(document.curFormatId)
+                         .arg(document.savedPath)
+                         .arg(document.errorCount)
+                         .arg(document.curFontName));
+        lines.append(place());
+        lines.append(document.fileChanged() ? u"changed"_s : u"unchanged"_s);
+        return lines.join(u'\n').toStdString();
+    }
+
+    [[nodiscard]] QString place() const
+    {
+        return u"%1,%2 top %3"_s.arg(grid.row()).arg(grid.col()).arg(grid.topRow());
+    }
+
+    [[nodiscard]] std::string ways() const
+    {
+        return std::string(menu.mnuUndo.isEnabled() ? "undo" : "")
+               + (menu.mnuRedo.isEnabled() ? " redo" : "");
+    }
+
+    CountedScan scan;
+    Grid &grid = editor.grdSubEdit;
+    UndoStore undo{document, menu, scan, trace};
+};
+
+TEST_F(UndoStoreTest, WalksOverEachKindOfChange)
+{
+    const struct
+    {
+        const char *name;
+        std::function<void(UndoStoreTest &)> change;
+    } rows[] = {
+        {"a cell", [](auto &t) { t.grid.setText(2, 4, u"x"_s); }},
+        {"all cells",
+         [](auto &t) {
+             t.grid.setAllRows({t.grid.allRows().constFirst(), {}});
+         }},
+        {"a row more", [](auto &t) { t.grid.insertRow(2, {u"n"_s}); }},
+        {"a row fewer", [](auto &t) { t.grid.removeRow(3); }},
+        {"the header", [](auto &t) { t.grid.setText(0, 3, u"text ahead"_s); }},
+        {"a font", [](auto &t) { t.editor.lstFont.setItem(2, u"Verdana;;;"_s); }},
+        {"fonts more", [](auto &t) { t.editor.lstFont.addItem(u"Verdana;;;"_s); }},
+        {"nodes",
+         [](auto &t) {
+             t.document.clearNodeMarks();
+             t.document.nodeCount = 2;
+             t.document.nodes[1].lastRow = 2;
+             t.document.nodes[2] = {.firstRow = 3, .lastRow = 3, .name = u"two"_s, .flag = true};
+             t.document.ShowNodeMarks(1);
+         }},
+        {"a node's flag", [](auto &t) { t.document.nodes[1].flag = true; }},
+        {"findings with a change",
+         [](auto &t) {
+             t.grid.setText(1, 1, u""_s);
+             t.document.setRowErrorText(1, u"no time"_s);
+             t.document.errorCount = 1;
+             t.grid.setCellColor(1, 1, Color::fromBgr(0xFF));
+         }},
+        {"a format",
+         [](auto &t) {
+             t.document.curFormatId = 3;
+             t.document.savedPath.clear();
+         }},
+        {"the place too",
+         [](auto &t) {
+             t.grid.setText(1, 1, u"x"_s);
+             t.grid.setCurrent(3, 1);
+             t.grid.setTopRow(2);
+         }},
+    };
+    for (const auto &row : rows) {
+        open(3);
+        const std::string before = state();
+        {
+            const SubtitleDocument::Act act(document);
+            row.change(*this);
+            document.markEdited();
+        }
+        const std::string after = state();
+        EXPECT_EQ(ways(), "undo") << row.name;
+        menu.mnuUndo.click();
+        EXPECT_EQ(state(), before) << row.name;
+        EXPECT_EQ(ways(), " redo") << row.name;
+        menu.mnuRedo.click();
+        EXPECT_EQ(state(), after) << row.name;
+        EXPECT_EQ(ways(), "undo") << row.name;
+    }
+}
+
+TEST_F(UndoStoreTest, WhatChangedNothingIsNoStep)
+{
+    write(1, u" 1"_s);
+    EXPECT_EQ(ways(), "");
+    {
+        const SubtitleDocument::Act act(document);
+        grid.setAllRows(QList<GridRow>(grid.allRows())); // the same again
+        grid.setCurrent(2, 2);
+        document.curNode = 0;
+        grid.setCellColor(1, 4, Color::fromBgr(0xFF));
+    }
+    EXPECT_EQ(ways(), "");
+    undo.undo();
+    undo.redo();
+    EXPECT_EQ(grid.row(), 2);
+}
+
+TEST_F(UndoStoreTest, NestedActsAreOneStep)
+{
+    const std::string before = state();
+    {
+        const SubtitleDocument::Act act(document);
+        write(1, u"a"_s);
+        write(2, u"b"_s);
+    }
+    undo.undo();
+    EXPECT_EQ(state(), before);
+    EXPECT_EQ(ways(), " redo");
+}
+
+TEST_F(UndoStoreTest, NewChangeEndsTheWayForward)
+{
+    write(1, u"a"_s);
+    write(1, u"b"_s);
+    undo.undo();
+    write(2, u"c"_s);
+    EXPECT_EQ(ways(), "undo");
+    undo.undo();
+    EXPECT_EQ(grid.text(1, 3), u"a"_s);
+    undo.undo();
+    EXPECT_EQ(grid.text(1, 3), u" 1"_s);
+    EXPECT_EQ(ways(), " redo");
+    for (int i = 0; i < 5; ++i) {
+        undo.redo();
+    }
+    EXPECT_EQ(grid.text(1, 3), u"a"_s);
+    EXPECT_EQ(grid.text(2, 3), u"c"_s);
+}
+
+TEST_F(UndoStoreTest, ChangeOutsideAnActIsAStepOfItsOwn)
+{
+    grid.setText(1, 3, u"outside"_s);
+    document.markEdited();
+    grid.setText(0, 3, u"another language"_s); // no change of the document
+    write(2, u"inside"_s);
+    undo.undo();
+    EXPECT_EQ(grid.text(1, 3), u"outside"_s);
+    undo.undo();
+    EXPECT_EQ(grid.text(1, 3), u" 1"_s);
+    EXPECT_EQ(grid.text(0, 3), u"another language"_s);
+    EXPECT_EQ(ways(), " redo");
+}
+
+TEST_F(UndoStoreTest, SavedStateComesBackAsUnchanged)
+{
+    write(1, u"a"_s);
+    write(1, u"b"_s);
+    document.setFileChanged(false); // saved
+    EXPECT_EQ(ways(), "undo");
+    undo.undo();
+    EXPECT_TRUE(document.fileChanged());
+    undo.undo();
+    EXPECT_TRUE(document.fileChanged());
+    undo.redo();
+    undo.redo();
+    EXPECT_FALSE(document.fileChanged());
+
+    undo.undo();
+    document.setFileChanged(false);
+    undo.undo();
+    EXPECT_TRUE(document.fileChanged());
+    undo.redo();
+    EXPECT_FALSE(document.fileChanged());
+    write(1, u"b"_s); // the same text as the one that was saved first, and yet not saved now
+    undo.undo();
+    EXPECT_FALSE(document.fileChanged());
+    undo.redo();
+    EXPECT_TRUE(document.fileChanged());
+}
+
+TEST_F(UndoStoreTest, MarkThatLeavesTheFlagIsNotInTheFile)
+{
+    {
+        const SubtitleDocument::Act act(document);
+        document.nodes[1].flag = true;
+    }
+    EXPECT_FALSE(document.fileChanged());
+    undo.undo();
+    EXPECT_FALSE(document.fileChanged());
+    undo.redo();
+    EXPECT_FALSE(document.fileChanged());
+}
+
+TEST_F(UndoStoreTest, NewDocumentHasNothingBehindIt)
+{
+    write(1, u"a"_s);
+    document.startNew();
+    EXPECT_EQ(ways(), "");
+    document.setFileChanged(false);
+    write(1, u"b"_s);
+    undo.undo();
+    EXPECT_FALSE(document.fileChanged());
+    EXPECT_EQ(ways(), " redo");
+    document.setFileChanged(true);
+    emit document.replaced(); // one that was brought back from nowhere
+    write(1, u"c"_s);
+    undo.undo();
+    EXPECT_TRUE(document.fileChanged());
+}
+
+TEST_F(UndoStoreTest, SaveUnderAnotherNameStaysItsName)
+{
+    write(1, u"a"_s);
+    document.curFormatId = 3;
+    document.savedPath = u"other.sub"_s;
+    document.setFileChanged(false);
+    write(1, u"b"_s);
+    undo.undo();
+    undo.undo();
+    EXPECT_EQ(document.curFormatId, 3);
+    EXPECT_EQ(document.savedPath, u"other.sub"_s);
+    EXPECT_EQ(ways(), " redo");
+}
+
+TEST_F(UndoStoreTest, FormatIsShownWhenAWalkChangesIt)
+{
+    int shown = 0;
+    undo.formatChanged = [&] { ++shown; };
+    write(1, u"a"_s);
+    {
+        const SubtitleDocument::Act act(document);
+        document.curFormatId = 3;
+    }
+    undo.undo();
+    EXPECT_EQ(shown, 1);
+    undo.undo();
+    EXPECT_EQ(shown, 1);
+}
+
+TEST_F(UndoStoreTest, PlaceOfTheChangeComesIntoSight)
+{
+    const struct
+    {
+        const char *name;
+        int changed, row, top;
+        const char *place;
+    } rows[] = {
+        {"nobody moved", 50, 50, 45, "50,3 top 45"},
+        {"moved within sight", 50, 48, 45, "50,3 top 45"},
+        {"scrolled, still in sight", 50, 50, 42, "50,3 top 42"},
+        {"moved far away", 50, 90, 85, "50,3 top 50"},
+        {"moved above", 50, 2, 1, "50,3 top 50"},
+    };
+    for (const auto &row : rows) {
+        open(100);
+        grid.setCurrent(row.changed, 3);
+        grid.setTopRow(45);
+        write(row.changed, u"x"_s);
+        grid.setCurrent(row.row, 3);
+        grid.setTopRow(row.top);
+        undo.undo();
+        EXPECT_EQ(place().toStdString(), row.place) << row.name;
+        EXPECT_EQ(document.curRow, row.changed) << row.name; // and the panels show it
+    }
+}
+
+TEST_F(UndoStoreTest, ScansWhereThereWereFindings)
+{
+    const struct
+    {
+        int before, after, scans;
+    } rows[] = {{0, 0, 0}, {1, 0, 1}, {0, 2, 1}, {2, 2, 1}};
+    for (const auto &row : rows) {
+        open(3);
+        scan.quietRuns = 0;
+        document.errorCount = row.before;
+        {
+            const SubtitleDocument::Act act(document);
+            grid.setText(1, 3, u"x"_s);
+            document.errorCount = row.after;
+        }
+        undo.undo();
+        EXPECT_EQ(scan.quietRuns, row.scans) << row.before << ' ' << row.after;
+        EXPECT_EQ(document.errorCount, row.before);
+        undo.redo();
+        EXPECT_EQ(document.errorCount, row.after);
+    }
+    EXPECT_EQ(scan.runs, 0); // the repairs stay off
+}
+
+TEST_F(UndoStoreTest, ScanIsNoActOfThePersons)
+{
+    scan.during = [this] {
+        const SubtitleDocument::Act act(document); // no step either
+        trace.RecordAction({}, 719);
+        grid.setCurrent(3, 1);
+    };
+    document.errorCount = 1;
+    write(1, u"x"_s);
+    trace.RecordAction(u"kept"_s, 504);
+    const QString before = place();
+    undo.undo();
+    EXPECT_EQ(scan.quietRuns, 1);
+    EXPECT_EQ(trace.lastActionCode, 504);
+    EXPECT_EQ(trace.lastActionText, u"kept"_s);
+    EXPECT_EQ(place(), before);
+    EXPECT_EQ(ways(), " redo");
+}
+
+TEST_F(UndoStoreTest, LeavesHistoryAndTraceAlone)
+{
+    write(1, u"x"_s);
+    trace.RecordAction(u"kept"_s, 504);
+    undo.undo();
+    undo.redo();
+    EXPECT_EQ(trace.lastActionCode, 504);
+    EXPECT_EQ(history.List1.count(), 0);
+}
+
+TEST_F(UndoStoreTest, RangesEndWithTheDocument)
+{
+    times.Text1[1].setText(u"3"_s);
+    times.Text1[3].setText(u"2"_s);
+    write(1, u"x"_s);
+    undo.undo();
+    EXPECT_EQ(times.Text1[3].text(), u"2"_s); // a person's own, as long as the rows are there
+    {
+        const SubtitleDocument::Act act(document);
+        grid.removeRow(3);
+    }
+    undo.undo();
+    EXPECT_EQ(times.Text1[1].text(), u"3"_s);
+    EXPECT_EQ(times.Text1[3].text(), u"3"_s);
+}
+
+TEST_F(UndoStoreTest, OldestStepsGo)
+{
+    for (int i = 1; i <= 1010; ++i) {
+        write(1, QString::number(i));
+    }
+    int steps = 0;
+    for (; undo.canUndo(); ++steps) {
+        undo.undo();
+    }
+    EXPECT_EQ(steps, 1000);
+    EXPECT_EQ(grid.text(1, 3), u"10"_s);
+
+    open(1);
+    const QString large(1 << 22, u'x'); // eight MiB each
+    for (int i = 1; i <= 20; ++i) {
+        write(1, large + QString::number(i));
+    }
+    for (steps = 0; undo.canUndo(); ++steps) {
+        undo.undo();
+    }
+    EXPECT_GE(steps, 5);
+    EXPECT_LE(steps, 8);
+
+    open(1);
+    const QString huge(1 << 26, u'x');
+    write(1, huge);
+    write(1, u"small"_s);
+    undo.undo();
+    EXPECT_EQ(grid.text(1, 3).size(), huge.size()); // the last step always stays
+}
+
+} // namespace
+} // namespace kavro

@@ -1,0 +1,392 @@
+// The pages of the tools in the main window: keys, fields, letters and what a person sees of an
+// act.
+
+#include "tests/support/test_program.h"
+#include "ui/grid_view.h"
+#include "ui/help_browser.h"
+#include "ui/main_window.h"
+#include "ui/partition_view.h"
+#include "ui/tool_page.h"
+
+#include <QAction>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeView>
+
+#include <gtest/gtest.h>
+
+namespace kavro::test {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QString manySubtitles(int count)
+{
+    QString text;
+    for (int i = 1; i <= count; ++i) {
+        const QString time =
+            u"%1:%2"_s.arg(i / 60, 2, 10, QChar(u'0')).arg(i % 60, 2, 10, QChar(u'0'));
+        text +=
+            u"%1\n00:%2,000 --> 00:%2,500\nLine %1 of the film\n\n"_s.arg(QString::number(i), time);
+    }
+    return text;
+}
+
+/// Counts how often a widget is painted.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget &widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
+/// The main window over a document of that many subtitles; the grid has the focus.
+class ToolPageWindow : public ::testing::Test
+{
+protected:
+    void open(int subtitles)
+    {
+        run.start(run.write(u"film.srt"_s, manySubtitles(subtitles)));
+        window = std::make_unique<MainWindow>(run.program(), help);
+        window->open();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        grid = window->findChild<GridView *>();
+        grid->setFocus();
+        run->editor.grdSubEdit.setCurrent(2, FirstTextColumn);
+        run->trace.RecordAction({}, 0);
+        QTest::qWait(1);
+    }
+    void show(TabStrip &strip, int tab)
+    {
+        strip.setTab(tab);
+        QTest::qWait(1); // letters and lists are brought up to date behind it
+    }
+    template <class T>
+    T *view(const QString &name)
+    {
+        T *found = window->findChild<T *>(name);
+        EXPECT_NE(found, nullptr) << qPrintable(name);
+        return found;
+    }
+    static void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+    }
+    QString focus() { return QApplication::focusWidget()->objectName(); }
+    QString cell(int row, int col) { return run->editor.grdSubEdit.text(row, col).trimmed(); }
+
+    TestProgram run;
+    HelpPages help;
+    std::unique_ptr<MainWindow> window;
+    GridView *grid = nullptr;
+};
+
+TEST_F(ToolPageWindow, InsertAndDeleteAreKeysOfTheGrid)
+{
+    open(3);
+    const int rows = run->editor.grdSubEdit.rows();
+    key(Qt::Key_Insert);
+    EXPECT_EQ(run->editor.grdSubEdit.rows(), rows + 1);
+    EXPECT_EQ(cell(2, FirstTextColumn), QString());
+    EXPECT_TRUE(grid->hasFocus());
+    key(Qt::Key_Delete, Qt::ControlModifier);
+    EXPECT_EQ(run->editor.grdSubEdit.rows(), rows);
+    EXPECT_EQ(cell(2, FirstTextColumn), u"Line 2 of the film"_s);
+    view<QLineEdit>(u"rtfSubEditBasic"_s)->setFocus();
+    key(Qt::Key_Insert);
+    key(Qt::Key_Home);
+    key(Qt::Key_Delete, Qt::ControlModifier);
+    EXPECT_EQ(run->editor.grdSubEdit.rows(), rows) << "in a field they are the field's";
+    EXPECT_EQ(run->editor.rtfSubEditBasic.text(), u"2 of the film"_s);
+}
+
+TEST_F(ToolPageWindow, SearchKeysLeadToTheirFieldsAndGoOn)
+{
+    open(30);
+    key(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(focus(), u"rtfSearch"_s);
+    QTest::keyClicks(QApplication::focusWidget(), u"line 2"_s);
+    key(Qt::Key_Return);
+    EXPECT_EQ(run->editor.grdSubEdit.row(), 2);
+    EXPECT_EQ(focus(), u"rtfSearch"_s) << "the focus stays for the next search";
+    key(Qt::Key_F3);
+    EXPECT_EQ(run->editor.grdSubEdit.row(), 20);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return run->searchReplace.lblMatches.caption().contains(u"11"); }));
+    EXPECT_EQ(view<QLabel>(u"lblMatches"_s)->text(), run->searchReplace.lblMatches.caption());
+
+    key(Qt::Key_H, Qt::ControlModifier);
+    EXPECT_EQ(focus(), u"rtfReplace"_s) << "what is searched for stands already";
+    EXPECT_TRUE(run->searchReplace.Option1[1].isOn());
+    key(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(view<QLineEdit>(u"rtfSearch"_s)->selectedText(), u"line 2"_s);
+    EXPECT_TRUE(run->searchReplace.Option1[0].isOn());
+    QTest::keyClicks(QApplication::focusWidget(), u"nowhere"_s);
+    key(Qt::Key_Return);
+    const auto *state = view<QLabel>(u"StatusBar1.3"_s);
+    EXPECT_TRUE(state->text().contains(u"nowhere"_s)) << qPrintable(state->text());
+}
+
+TEST_F(ToolPageWindow, EnterPressesTheButtonOfThePage)
+{
+    struct Case
+    {
+        const char *strip;
+        int tab;
+        const char *field;
+        int code;
+    };
+    static const Case cases[] = {
+        {"SSTab3", 0, "rtfShiftDuration", 518}, {"SSTab3", 0, "Combo2", 518},
+        {"SSTab3", 1, "Text1(3)", 522},         {"SSTab3", 2, "rtfDurShift", 530},
+        {"SSTab3", 2, "Command15", 534},        {"SSTab3", 3, "Combo14(1)", 548},
+        {"SSTab2", 0, "Command10", 501},        {"SSTab2", 1, "rtfSearch", 508},
+        {"SSTab2", 2, "Check4(0)", 513},        {"SSTab2", 3, "Combo9(1)", 514},
+    };
+    open(5);
+    for (const Case &c : cases) {
+        show(run.control<TabStrip>(QString::fromLatin1(c.strip)), c.tab);
+        run->trace.RecordAction({}, 0);
+        view<QWidget>(QString::fromLatin1(c.field))->setFocus();
+        key(Qt::Key_Return);
+        EXPECT_EQ(run->trace.lastActionCode, c.code) << c.field;
+        EXPECT_EQ(focus(), QString::fromLatin1(c.field)) << "the focus stays";
+    }
+    EXPECT_EQ(run.takeMessages(), QStringList());
+}
+
+TEST_F(ToolPageWindow, FieldsAreNamedAndBoundBothWays)
+{
+    open(5);
+    int fields = 0;
+    for (TabStrip *strip : {&run->editor.SSTab2, &run->editor.SSTab3}) {
+        for (int tab = 0; tab < 4; ++tab) {
+            show(*strip, tab);
+        }
+    }
+    const auto pages = window->findChildren<ToolPage *>();
+    for (const ToolPage *page : pages) {
+        for (QWidget *widget : page->findChildren<QWidget *>()) {
+            if ((widget->focusPolicy() & Qt::TabFocus) != 0 && widget->window() == window.get()
+                && !widget->objectName().startsWith(u"qt_"_s))
+            {
+                EXPECT_FALSE(widget->accessibleName().isEmpty())
+                    << widget->metaObject()->className() << qPrintable(widget->objectName());
+            }
+            auto *edit = qobject_cast<QLineEdit *>(widget);
+            auto *box = qobject_cast<TextBox *>(run->control(widget->objectName()));
+            if (edit == nullptr || box == nullptr || !edit->isEnabled()) {
+                continue;
+            }
+            ++fields;
+            const QString name = box->nameWithIndex();
+            box->setText(u"by code"_s);
+            EXPECT_EQ(edit->text(), u"by code"_s) << qPrintable(name);
+            edit->end(false);
+            QTest::keyClick(edit, Qt::Key_X);
+            EXPECT_EQ(box->text(), u"by codex"_s) << qPrintable(name);
+        }
+    }
+    EXPECT_GE(fields, 12);
+}
+
+TEST_F(ToolPageWindow, TabGoesThroughThePagesThatShowInReadingOrder)
+{
+    open(5);
+    show(run->editor.SSTab3, 2); // made after all others
+    show(run->editor.SSTab2, 1);
+    QStringList stops;
+    grid->setFocus();
+    do {
+        stops.append(focus());
+        key(Qt::Key_Tab);
+    } while (!grid->hasFocus() && stops.size() < 100);
+    qsizetype last = -1;
+    for (const auto &name :
+         {u"grdSubEdit"_s, u"rtfSearch"_s, u"rtfReplace"_s, u"Option1(0)"_s, u"cmdSearch"_s,
+          u"List4"_s, u"rtfTimeStart"_s, u"rtfTimeEnd"_s, u"rtfDurShift"_s, u"Command15"_s,
+          u"Command19"_s, u"List1"_s, u"rtfClipBoard"_s})
+    {
+        EXPECT_GT(stops.indexOf(name), last) << qPrintable(name + u" in "_s + stops.join(u' '));
+        last = stops.indexOf(name);
+    }
+}
+
+TEST_F(ToolPageWindow, LettersAreFreeAndLeadToTheirFields)
+{
+    open(5);
+    for (int tab = 0; tab < 4; ++tab) {
+        show(run->editor.SSTab2, tab);
+        show(run->editor.SSTab3, tab);
+        QStringList letters;
+        const auto add = [&letters](const QString &text) {
+            const QString letter = QKeySequence::mnemonic(text).toString();
+            EXPECT_FALSE(!letter.isEmpty() && letters.contains(letter))
+                << qPrintable(text + u" has the letter of another"_s);
+            letters.append(letter);
+        };
+        for (const QAction *menu : window->menuBar()->actions()) {
+            add(menu->isVisible() ? menu->text() : QString());
+        }
+        for (const QWidget *widget : window->findChildren<QWidget *>()) {
+            const auto *label = qobject_cast<const QLabel *>(widget);
+            const auto *button = qobject_cast<const QAbstractButton *>(widget);
+            if (widget->isVisible() && (label == nullptr || label->buddy() != nullptr)) {
+                add(label ? label->text() : button ? button->text() : QString());
+            }
+        }
+        EXPECT_GT(letters.count(), 15);
+    }
+    show(run->editor.SSTab3, 1);
+    const auto labels = window->findChildren<QLabel *>(u"Label41"_s);
+    ASSERT_FALSE(labels.isEmpty());
+    const QKeySequence letter = QKeySequence::mnemonic(labels.first()->text());
+    ASSERT_FALSE(letter.isEmpty());
+    key(letter[0].key(), Qt::AltModifier);
+    EXPECT_EQ(focus(), u"rtfStretchLast"_s);
+}
+
+TEST_F(ToolPageWindow, AnActRepaintsTheGridOnceAndKeepsTheView)
+{
+    open(1000);
+    Grid &control = run->editor.grdSubEdit;
+    grid->grid().scrollTo(400);
+    control.setCurrent(405, EndColumn);
+    run->shift.rtfShiftDuration.setText(u"00:00:10,000"_s);
+    run->shift.Combo2.setSelected(1);
+    QTest::qWait(50);
+    PaintCounter paints(*grid->viewport());
+    run->shift.Command13.click();
+    QTest::qWait(50);
+    EXPECT_EQ(paints.count, 1);
+    EXPECT_EQ(cell(1, StartColumn), u"00:00:11,000"_s);
+    EXPECT_EQ(control.topRow(), 400);
+    EXPECT_EQ(control.row(), 405);
+    EXPECT_EQ(control.col(), EndColumn);
+    EXPECT_TRUE(grid->hasFocus());
+}
+
+TEST_F(ToolPageWindow, ButtonTakesWhatIsBeingTypedFirst)
+{
+    open(5);
+    QTest::keyClicks(grid, u"typed"_s);
+    QTest::mouseClick(view<QPushButton>(u"Command10"_s), Qt::LeftButton);
+    EXPECT_EQ(cell(3, FirstTextColumn), u"typed"_s) << "the line moved down by the insert";
+    EXPECT_EQ(cell(2, FirstTextColumn), QString());
+}
+
+TEST_F(ToolPageWindow, BottomPanelFoldsAwayAndGivesItsRoom)
+{
+    open(5);
+    const int before = grid->height();
+    auto *fold = view<QToolButton>(u"command55(0)"_s);
+    QTest::mouseClick(fold, Qt::LeftButton);
+    QTest::qWait(1);
+    EXPECT_FALSE(view<QWidget>(u"tabClipboard"_s)->isVisible());
+    EXPECT_TRUE(fold->isVisible());
+    EXPECT_GT(grid->height(), before + 80);
+    QTest::mouseClick(fold, Qt::LeftButton);
+    QTest::qWait(1);
+    EXPECT_TRUE(view<QWidget>(u"tabClipboard"_s)->isVisible());
+    EXPECT_EQ(grid->height(), before);
+}
+
+TEST_F(ToolPageWindow, FindingCanBePutAwayAndBroughtBack)
+{
+    open(5);
+    run->document.setRowErrorText(2, u"Overlap"_s);
+    run->document.RefreshCurrentRow();
+    ASSERT_TRUE(run->editor.errExp.isVisible());
+    key(Qt::Key_Return, Qt::AltModifier);
+    EXPECT_FALSE(run->editor.errExp.isVisible());
+    key(Qt::Key_Return, Qt::AltModifier);
+    EXPECT_TRUE(run->editor.errExp.isVisible());
+    run->editor.grdSubEdit.setRow(3);
+    key(Qt::Key_Return, Qt::AltModifier);
+    EXPECT_FALSE(run->editor.errExp.isVisible()) << "there is none on this row";
+}
+
+TEST_F(ToolPageWindow, ListOfPartsIsEditedInPlace)
+{
+    open(5);
+    run->navigation.tabMain.setTab(PartitionTab);
+    auto *parts = view<GridView>(u"grid"_s);
+    parts->setFocus();
+    run->partition.grid.setCurrent(1, 1);
+    QTest::keyClicks(parts, u"disc1"_s);
+    key(Qt::Key_Return);
+    EXPECT_EQ(run->partition.grid.text(1, 1), u"disc1"_s);
+    EXPECT_EQ(run->partition.grid.rows(), 3) << "the end row became a part";
+    EXPECT_TRUE(parts->hasFocus());
+    QTest::keyClicks(parts, u"lost"_s);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(run->partition.grid.text(1, 1), u"disc1"_s);
+    QTest::keyClicks(parts, u"kept"_s);
+    window->finishEdit();
+    EXPECT_EQ(run->partition.grid.text(1, 1), u"kept"_s);
+}
+
+TEST_F(ToolPageWindow, TreeOfFortyThousandNodesShowsAtOnce)
+{
+    open(5);
+    run->navigation.tabMain.setTab(DiagnoseTab);
+    auto *tree = view<QTreeView>(u"tvDiag"_s);
+    TreeView &tvDiag = run->diagnose.tvDiag;
+    QElapsedTimer timer;
+    int lines = 0;
+    {
+        const TreeView::Batch batch(tvDiag);
+        const int root = tvDiag.add(TreeView::noNode, u"Errors"_s, u"err"_s);
+        lines = tvDiag.add(root, u"Line"_s, u"sol_line"_s);
+        for (int i = 1; i <= 20000; ++i) {
+            const int line = tvDiag.add(lines, u"Line %1"_s.arg(i, 4, 10, QChar(u'0')));
+            tvDiag.add(line, u"Mark [Repair.Overlapping] to repair"_s);
+        }
+        tvDiag.expand(root);
+        tvDiag.expand(lines);
+        timer.start();
+    }
+    const QAbstractItemModel &model = *tree->model();
+    const QModelIndex branch = model.index(0, 0, model.index(0, 0));
+    const QModelIndex last = model.index(model.rowCount(branch) - 1, 0, branch);
+    tree->scrollTo(last);
+    tree->repaint();
+    EXPECT_LT(timer.elapsed(), 300);
+    EXPECT_EQ(last.data().toString(), u"Line 20000"_s);
+    EXPECT_TRUE(tree->viewport()->rect().intersects(tree->visualRect(last)))
+        << "the branch is open to its end";
+}
+
+TEST_F(ToolPageWindow, APartIsTypedWithItsLengthInOneGo)
+{
+    open(3);
+    show(run->navigation.tabMain, PartitionTab);
+    Grid &parts = run->partition.grid;
+    parts.setCurrent(1, PartNameColumn);
+    auto *list = window->findChild<PartitionView *>()->findChild<GridView *>();
+    list->setFocus();
+    const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
+    QTest::keyClicks(QApplication::focusWidget(), u"d"_s);
+    QTest::keyClicks(QApplication::focusWidget(), u"isc1"_s);
+    press(Qt::Key_Tab);
+    QTest::keyClicks(QApplication::focusWidget(), u"00:00:10,000"_s);
+    press(Qt::Key_Return);
+    EXPECT_EQ(run->partition.partCount(), 1);
+    EXPECT_EQ(parts.text(1, PartNameColumn), u"disc1"_s);
+    EXPECT_EQ(parts.text(1, PartLengthColumn), u"00:00:10,000"_s);
+}
+
+} // namespace
+} // namespace kavro::test
