@@ -43,6 +43,12 @@ enum HelpPage { LoadPage = 22, AddPage = 23, SavePage = 24, SaveSettingsPage = 2
 
 enum FileText { LoadText = 0, SaveText = 1, SaveSettingsText = 2 };
 
+/// Rows that a write left out are in no file yet.
+bool isWhole(const WriteResult &result)
+{
+    return result.kind == WriteResult::Kind::Written && result.firstRowLeft == 0;
+}
+
 } // namespace
 
 FileCommands::FileCommands(Form &frmMain, Form &frmFile, const Parts &parts)
@@ -225,12 +231,11 @@ bool FileCommands::mnuSave()
                                                              .path = document.savedPath,
                                                              .literal = true,
                                                              .askOverwrite = false});
-    const bool written = result.kind == WriteResult::Kind::Written;
-    if (written) {
+    if (result.kind == WriteResult::Kind::Written) {
         documentWritten(result);
     }
     m_parts.trace.RecordAction({}, SaveCode);
-    return written;
+    return isWhole(result);
 }
 
 bool FileCommands::mayWriteErrors()
@@ -276,7 +281,7 @@ bool FileCommands::mnuSavesubfile()
     const WriteResult result = WriteSubtitleFile(window.lblFullName.caption(),
                                                  window.List3.selected(), document.subtitleCount());
     m_parts.trace.RecordAction({}, SaveCode);
-    return result.kind == WriteResult::Kind::Written;
+    return isWhole(result);
 }
 
 WriteResult FileCommands::WriteSubtitleFile(const QString &path, int formatId, int lastRow)
@@ -297,7 +302,7 @@ void FileCommands::documentWritten(const WriteResult &result)
     SubtitleDocument &document = m_parts.document;
     document.savedPath = result.path;
     document.savedFormatId = document.curFormatId;
-    document.setFileChanged(result.firstRowLeft > 0);
+    document.markSaved(isWhole(result));
     m_parts.nodeFile.SaveSubControl(result.path);
     m_parts.menu.mnuReopen.setEnabled(true);
     showEncoding();

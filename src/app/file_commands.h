@@ -58,9 +58,9 @@ public:
     void mnuLoadFile();
     void mnuAddFile();
     /// Writes at once, without a question, where the document came from or went to its file in its
-    /// format; else it is `mnuSavesubfile`. True when the file was written.
+    /// format; else it is `mnuSavesubfile`. True when the whole document is in the file.
     bool mnuSave();
-    /// Asks for a name and a format. True when the file was written.
+    /// Asks for a name and a format. True when the whole document is in the file.
     bool mnuSavesubfile();
     /// Asks for a name and writes nothing.
     void mnuSaveSettings();

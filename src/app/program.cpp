@@ -288,7 +288,8 @@ bool Program::exit()
     if (m_ended) {
         return true;
     }
-    // A save that wrote nothing brings the question back: only a person's no loses the changes.
+    // A save that wrote nothing, or not all, brings the question back: only a person's no loses
+    // the changes.
     while (keepsChanges() && !fileCommands.mnuSavesubfile()) {
     }
     if (!m_forVerb) {

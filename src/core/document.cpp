@@ -83,6 +83,14 @@ void SubtitleDocument::markEdited()
     subtitleChanged = false;
 }
 
+void SubtitleDocument::markSaved(bool whole)
+{
+    setFileChanged(!whole);
+    if (!whole) {
+        emit savedInPart();
+    }
+}
+
 SubtitleDocument::Act::Act(SubtitleDocument &document) : m_document(document)
 {
     if (m_document.m_acts++ == 0 && m_document.actBegins) {

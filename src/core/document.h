@@ -88,6 +88,9 @@ public:
     void setFileChanged(bool changed);
     /// What every edit does: `fileChanged` set, `subtitleChanged` cleared.
     void markEdited();
+    /// A save went into a file: `fileChanged` is cleared, but stays or is set when rows were left
+    /// out of it.
+    void markSaved(bool whole);
 
     /// One act of the user's that may change the document. Acts nest, and only the outermost
     /// counts: what a delete, its repairs and their marks do is one step back.
@@ -152,6 +155,8 @@ public:
 
 signals:
     void fileChangedChanged(bool changed);
+    /// A save left rows out: what was on disk is gone, and no state of the document is there.
+    void savedInPart();
     /// `subFileName` is another one.
     void nameChanged();
     /// A plain load or a new document put another document in the place of this one.

@@ -43,6 +43,7 @@ UndoStore::UndoStore(SubtitleDocument &document, MainMenu &menu, DiagnoseHost &d
     m_document.actEnded = [this] { endAct(); };
     connect(&m_document, &SubtitleDocument::replaced, this, &UndoStore::clear);
     connect(&m_document, &SubtitleDocument::fileChangedChanged, this, &UndoStore::documentSaved);
+    connect(&m_document, &SubtitleDocument::savedInPart, this, [this] { m_savedRevision = -1; });
     connect(&m_menu.mnuUndo, &Button::clicked, this, &UndoStore::undo);
     connect(&m_menu.mnuRedo, &Button::clicked, this, &UndoStore::redo);
     clear();

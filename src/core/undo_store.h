@@ -25,6 +25,7 @@ struct MainMenu;
 /// step always stays.
 ///
 /// A save clears nothing: the state that was saved comes back as unchanged, all others as changed.
+/// After a save that left rows out all are changed.
 /// A plain load or a new document clears all.
 ///
 /// A walk brings findings back as they were, and has a scan run with the repairs off when there

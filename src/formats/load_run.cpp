@@ -80,7 +80,7 @@ bool LoadRun::mayReplaceDocument()
          "Do you want to save now?/nIf you choose 'No', all changes are lost."_s,
          {m_request.path, m_parts.document.subFileName}},
         Answer::Yes, u"yesnocancel"_s, u"Warning: File not saved"_s);
-    // A save that wrote nothing must not cost the changes that were to be saved.
+    // A save that wrote nothing, or not all, must not cost what was to be saved.
     return answer == Answer::No || (answer == Answer::Yes && m_parts.host.saveDocument());
 }
 

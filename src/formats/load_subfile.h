@@ -30,7 +30,7 @@ public:
     virtual bool openMovie(const QString &path) = 0;
     /// Seconds.
     [[nodiscard]] virtual double movieDuration() const = 0;
-    /// Runs the save command; false when nothing was saved.
+    /// Runs the save command; false when the document isn't whole in its file.
     virtual bool saveDocument() = 0;
     /// Names the document in the window's places without writing anything.
     virtual void setFileName(const QString &path, int format) = 0;

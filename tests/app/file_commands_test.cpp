@@ -322,11 +322,24 @@ TEST(SaveAtOnce, KeepsAnExtensionThatIsNotTheFormats)
 
 TEST_F(LoadedFile, SaveThatEndsEarlyStaysChanged)
 {
-    run->editor.grdSubEdit.setText(2, EndColumn, u"x"_s);
-    run.doors.files.choose(run.path(u"out.srt"_s), SubRip);
+    {
+        const SubtitleDocument::Act act(run->document);
+        run->editor.grdSubEdit.setText(2, EndColumn, u"x"_s);
+    }
+    const QString out = run.path(u"out.srt"_s);
+    run.doors.files.choose(out, SubRip);
     run->menu.mnuSavesubfile.click();
     EXPECT_TRUE(run->document.fileChanged());
     EXPECT_EQ(run.takeMessages().size(), 1);
+
+    run.doors.messages.answer(Answer::Yes);
+    run.doors.messages.answer(Answer::Yes);
+    run.doors.files.choose(file);
+    run.doors.files.choose(out, SubRip);
+    run->menu.mnuLoadFile.click();
+    EXPECT_EQ(run->document.subFileName, out) << "no load drops the line that is in no file";
+    run->menu.mnuUndo.click();
+    EXPECT_TRUE(run->document.fileChanged()) << "the line is still in no file";
 }
 
 TEST_F(LoadedFile, SaveSettingsAsksForANameAndWritesNothing)

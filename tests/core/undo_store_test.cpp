@@ -246,6 +246,12 @@ TEST_F(UndoStoreTest, SavedStateComesBackAsUnchanged)
     EXPECT_FALSE(document.fileChanged());
     undo.redo();
     EXPECT_TRUE(document.fileChanged());
+
+    document.markSaved(false); // over the file that held an earlier state
+    undo.undo();
+    EXPECT_TRUE(document.fileChanged());
+    document.markSaved(true);
+    EXPECT_FALSE(document.fileChanged());
 }
 
 TEST_F(UndoStoreTest, MarkThatLeavesTheFlagIsNotInTheFile)
