@@ -70,11 +70,13 @@ Destination destinationOf(const QString &path)
     return {.path = path, .circle = true};
 }
 
-/// The new file belongs to whom the old one belonged, where we may do that.
+/// The new file belongs to whom the old one belonged, where we may do that; others of its group
+/// keep their rights also where it becomes ours.
 void takeOver(QFile &file, const QFileInfo &old)
 {
-    if (old.ownerId() != ::geteuid() || old.groupId() != ::getegid())
-        std::ignore = ::fchown(file.handle(), old.ownerId(), old.groupId());
+    constexpr auto nobody = static_cast<uid_t>(-1);
+    if (::fchown(file.handle(), old.ownerId(), old.groupId()) != 0)
+        std::ignore = ::fchown(file.handle(), nobody, old.groupId());
     file.setPermissions(old.permissions());
 }
 
