@@ -266,16 +266,16 @@ const FileStatus &FileWriter::commit()
 
 bool FileWriter::putInPlace()
 {
-    if (m_target.isEmpty()) {
-        m_file.close();
-        return m_file.error() == QFileDevice::NoError || failDevice();
-    }
     // A crash of the machine must not leave an empty file in the place of the old one. A new file
     // has nothing to lose, and a hundred of them would wait for the disk a hundred times.
-    if (QFileInfo::exists(m_target) && ::fdatasync(m_file.handle()) != 0)
+    const bool replaces = !m_target.isEmpty() && QFileInfo::exists(m_target);
+    if (replaces && ::fdatasync(m_file.handle()) != 0)
         return fail(FileFault::Unwritable, describe(errno));
+    // A file system across a network may tell its faults here.
     m_file.close();
-    if (!renameOver(m_file.fileName(), m_target))
+    if (m_file.error() != QFileDevice::NoError)
+        return failDevice();
+    if (!m_target.isEmpty() && !renameOver(m_file.fileName(), m_target))
         return fail(FileFault::Unwritable, describe(errno));
     m_target.clear();
     return true;
