@@ -299,8 +299,8 @@ bool FileWriter::fail(FileFault fault, const QString &text)
 {
     m_status = {.fault = fault, .text = text};
     m_file.close();
-    if (!m_target.isEmpty())
-        renameOver(m_file.fileName(), m_target + ".part"_L1);
+    if (!m_target.isEmpty() && !renameOver(m_file.fileName(), m_target + ".part"_L1))
+        m_store.remove(m_file.fileName());
     m_target.clear();
     return false;
 }

@@ -52,8 +52,8 @@ enum class WriteMode {
 ///
 /// In `Replace` a regular file is written beside the one that the name leads to, through links,
 /// keeps its permissions, and takes its place only in `commit`. When writing fails the old file is
-/// whole and what was begun stays under the name + ".part". Devices and pipes are written straight.
-/// A writer that goes without `commit` leaves no trace in `Replace`.
+/// whole and what was begun stays under the name + ".part", if that can be. Devices and pipes are
+/// written straight. A writer that goes without `commit` leaves no trace in `Replace`.
 ///
 /// The first fault stays: later calls do nothing, and `commit` returns it.
 class FileWriter

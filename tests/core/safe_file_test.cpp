@@ -98,6 +98,9 @@ TEST(SafeFile, FullDiskKeepsTheOldFile)
         EXPECT_EQ(folder.entries(), "a a.part");
         EXPECT_EQ(qint64(folder.read("a.part").size()), free);
 
+        folder.makeFolder("b.part");
+        EXPECT_FALSE(writeLines(store, folder.path("b"), 1).ok());
+        EXPECT_EQ(folder.entries(), "a a.part b.part") << "what can't stay leaves no trace";
         store.setFreeBytes({});
         EXPECT_TRUE(writeLines(store, folder.path("a"), 20000).ok());
         EXPECT_EQ(folder.read("a").size(), 180000U);
