@@ -4,6 +4,7 @@
 #include "tests/cli/cli_fixture.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QProcess>
 
@@ -155,7 +156,8 @@ TEST_F(Process, KilledInTheMiddleBringsItsChangesBack)
     process.write("load small.srt\ncell grdSubEdit 1 3\nset rtfSubEditBasic Changed\n"
                   "press Command14\ntick timRecovery\nget Label74\n");
     const QString kept = u"app/System/Recovery/1.rec"_s;
-    for (int i = 0; i < 500 && !QFile::exists(kept); ++i) {
+    const QDeadlineTimer patience(20000);
+    while (!QFile::exists(kept) && !patience.hasExpired()) {
         process.waitForReadyRead(10);
     }
     ASSERT_TRUE(QFile::exists(kept));

@@ -2,13 +2,13 @@
 
 #include "tests/core/file_support.h"
 
-#include <QElapsedTimer>
 #include <QStringList>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <ctime>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -234,12 +234,11 @@ TEST(LineReader, HugeFilesFailAtOnce)
     const TestFolder folder;
     const QString zeros = folder.write("zeros", "");
     ASSERT_EQ(::truncate(zeros.toUtf8().constData(), off_t{2} << 30), 0);
-    QElapsedTimer timer;
-    timer.start();
+    const std::clock_t begun = std::clock(); // the process's own time
     LineReader reader;
     EXPECT_EQ(reader.open(zeros).fault, FileFault::Binary);
     EXPECT_EQ(reader.open(u"/dev/zero"_s).fault, FileFault::TooLarge);
-    EXPECT_LT(timer.elapsed(), 5000);
+    EXPECT_LT((std::clock() - begun) / CLOCKS_PER_SEC, 5);
 }
 
 TEST(LineReader, PipesAreReadTwice)

@@ -1,6 +1,7 @@
 #include "ui/grid_view.h"
 
 #include "controls/form.h"
+#include "tests/ui/settle.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
@@ -117,13 +118,13 @@ TEST_F(GridViews, BulkChangeKeepsSelectionAndScrollAndPaintsOnce)
     };
     grid.setCurrent(310, 3);
     grid.setTopRow(300);
-    QTest::qWait(20);
+    settle();
     Paints paints;
     view.viewport()->installEventFilter(&paints);
     const QSignalSpy moved(&grid, &Grid::currentChanged);
     const QSignalSpy scrolled(&grid, &Grid::topRowChanged);
     fill(800);
-    QTest::qWait(20);
+    settle();
     EXPECT_EQ(paints.count, 1);
     EXPECT_EQ(shown(), (Cell{310, 3}));
     EXPECT_TRUE(view.selectionModel()->isRowSelected(309));

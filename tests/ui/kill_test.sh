@@ -6,20 +6,20 @@ kavro=$1
 folder=$(mktemp -d)
 trap 'kill -9 ${program:-} ${screen:-} 2>/dev/null || true; rm -rf "$folder"' EXIT
 
-until_true() { # COMMAND...: waits for it, 20 s at most
+until_true() { # COMMAND...: waits for it, a minute at most
     local tries
-    for ((tries = 0; tries < 200; tries++)); do
+    for ((tries = 0; tries < 600; tries++)); do
         "$@" >/dev/null 2>&1 && return 0
         sleep 0.1
     done
     echo "waited in vain for: $*" >&2
-    kill -0 "$program" 2>/dev/null && echo "the program runs" || echo "the program has ended"
+    kill -0 "${program:-none}" 2>/dev/null && echo "the program runs" || echo "the program has ended"
     cat "$folder/log"
     return 1
 }
 window() { xdotool search --onlyvisible --name "$1"; }
 
-Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp -noreset 3>"$folder/display" >/dev/null 2>&1 &
+Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp -noreset 3>"$folder/display" >>"$folder/log" 2>&1 &
 screen=$!
 disown
 until_true test -s "$folder/display"

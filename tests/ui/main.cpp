@@ -7,6 +7,12 @@
 
 int main(int argc, char *argv[])
 {
+    // What a developer's own desktop is set to stays out of the tests.
+    for (const char *const name : {"QT_SCALE_FACTOR", "QT_FONT_DPI", "QT_STYLE_OVERRIDE",
+                                   "QT_QPA_PLATFORMTHEME", "KAVRO_THEME"})
+    {
+        qunsetenv(name);
+    }
     // A screen on which the main window has room; the plugin's own is 800 by 800.
     QTemporaryFile screen;
     if (screen.open()) {

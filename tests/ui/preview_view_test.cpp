@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 namespace kavro::test {
 namespace {
 
@@ -56,12 +58,11 @@ TEST(PreviewView, AFullDocumentShowsFast)
     for (int line = 0; line < 5 * SubtitleDocument::maxSubtitles; ++line) {
         lines.append(u"Line %1"_s.arg(line));
     }
-    QElapsedTimer clock;
-    clock.start();
+    const std::clock_t begun = std::clock(); // the process's own time
     run->scriptPreview.List1.setItems(lines);
     QCoreApplication::processEvents();
     view.grab();
-    EXPECT_LT(clock.elapsed(), 500);
+    EXPECT_LT((std::clock() - begun) * 1000 / CLOCKS_PER_SEC, 500);
 }
 
 } // namespace

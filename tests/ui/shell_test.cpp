@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -65,8 +66,8 @@ TEST_F(Shells, FileOnTheCommandLineOpensTheWindowAtOnce)
     EXPECT_EQ(openWindow<SplashView>(), nullptr);
 
     ::testing::internal::CaptureStderr();
-    new StartTrace(*shell.mainWindow());
-    QTest::qWait(100);
+    const QPointer<StartTrace> trace = new StartTrace(*shell.mainWindow());
+    EXPECT_TRUE(QTest::qWaitFor([&trace] { return trace.isNull(); })) << "it goes when it has told";
     const QString line = QString::fromStdString(::testing::internal::GetCapturedStderr());
     EXPECT_TRUE(QRegularExpression(u"^settled [1-9][0-9]*\n$"_s).match(line).hasMatch())
         << line.toStdString();
