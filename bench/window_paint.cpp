@@ -104,7 +104,7 @@ int main(int argc, char *argv[])
                             .userData = folder.filePath(u"user"_s),
                             .temporary = folder.filePath(u"tmp"_s)},
                            kavro::FolderUse::Own);
-    kavro::Program program(doors.ports(), store, folders);
+    kavro::Program program(kavro::portsOf(doors), store, folders);
     program.start(file);
     kavro::HelpPages pages;
     kavro::MainWindow window(program, pages);

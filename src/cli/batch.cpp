@@ -67,7 +67,7 @@ bool Batch::prepare()
 
 std::unique_ptr<Program> Batch::newProgram(const LoadOptions &options)
 {
-    auto program = std::make_unique<Program>(ports.ports(), disk.store, disk.folders);
+    auto program = std::make_unique<Program>(portsOf(ports), disk.store, disk.folders);
     program->startForVerb(false);
     if (options.frameRate)
         program->frameRates.optFrameRate[*options.frameRate].setOn();

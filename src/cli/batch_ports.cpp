@@ -4,8 +4,6 @@
 #include "cli/streams.h"
 #include "controls/form.h"
 
-#include <QRandomGenerator>
-
 namespace kavro {
 
 using namespace Qt::StringLiterals;
@@ -45,33 +43,13 @@ void ClosedForms::runModal(Form &form)
     form.hide();
 }
 
-QString NoPlayer::missingText() const
-{
-    return u"The command line plays no movies."_s;
-}
-
 QStringList FixedScreen::fonts() const
 {
     return {u"Arial"_s, u"Courier New"_s, u"Tahoma"_s, u"Times New Roman"_s, u"Verdana"_s};
 }
 
-double SystemRandom::next()
-{
-    return QRandomGenerator::global()->generateDouble();
-}
-
-Ports BatchPorts::ports()
-{
-    return {.messages = messages,
-            .files = files,
-            .forms = forms,
-            .help = help,
-            .player = player,
-            .sound = sound,
-            .printer = printer,
-            .screen = screen,
-            .clock = clock,
-            .random = random};
-}
+BatchPorts::BatchPorts(std::ostream &err, std::optional<Answer> answer)
+    : messages(err, answer), forms(messages), player(u"The command line plays no movies."_s)
+{}
 
 } // namespace kavro

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ports.h"
+#include "core/machine_ports.h"
 
 #include <QString>
 
@@ -52,26 +52,6 @@ public:
     void open(const QString &) override {}
 };
 
-class NoPlayer : public MediaPlayer
-{
-public:
-    bool open(const QString &) override { return false; }
-    [[nodiscard]] QString fileName() const override { return {}; }
-    [[nodiscard]] double duration() const override { return 0; }
-    [[nodiscard]] double position() const override { return 0; }
-    void setPosition(double) override {}
-    void play() override {}
-    void pause() override {}
-    void stop() override {}
-    [[nodiscard]] QString missingText() const override;
-};
-
-class NoSound : public Sound
-{
-public:
-    void play(const QString &) override {}
-};
-
 class NoPrinter : public Printer
 {
 public:
@@ -87,26 +67,10 @@ public:
     [[nodiscard]] QStringList fonts() const override;
 };
 
-class SystemClock : public Clock
-{
-public:
-    [[nodiscard]] QDateTime now() const override { return QDateTime::currentDateTime(); }
-};
-
-class SystemRandom : public RandomNumbers
-{
-public:
-    [[nodiscard]] double next() override;
-};
-
 /// The doors of a verb that works without a script.
 struct BatchPorts
 {
-    BatchPorts(std::ostream &err, std::optional<Answer> answer)
-        : messages(err, answer), forms(messages)
-    {}
-
-    [[nodiscard]] Ports ports();
+    BatchPorts(std::ostream &err, std::optional<Answer> answer);
 
     BatchMessages messages;
     NoFileWindow files;

@@ -153,18 +153,4 @@ DrivePorts::DrivePorts(std::ostream &out, std::ostream &err, std::optional<Answe
       printer(output)
 {}
 
-Ports DrivePorts::ports()
-{
-    return {.messages = messages,
-            .files = files,
-            .forms = forms,
-            .help = help,
-            .player = player,
-            .sound = sound,
-            .printer = printer,
-            .screen = screen,
-            .clock = clock,
-            .random = random};
-}
-
 } // namespace kavro

@@ -175,8 +175,6 @@ struct DrivePorts
 {
     DrivePorts(std::ostream &out, std::ostream &err, std::optional<Answer> answer);
 
-    [[nodiscard]] Ports ports();
-
     ObjectOutput output;
     DriveMessages messages;
     DriveFiles files;

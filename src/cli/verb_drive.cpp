@@ -82,7 +82,7 @@ ExitStatus DriveVerb::drive(const QString &appDir, std::optional<Answer> answer,
 {
     DrivePorts ports(streams.out, streams.err, answer);
     VerbFolders disk(appDir);
-    Program program(ports.ports(), disk.store, disk.folders);
+    Program program(portsOf(ports), disk.store, disk.folders);
     DriveScript commands(script, {.program = program, .ports = ports, .err = streams.err});
     ports.forms.runCommands = [&commands](Form &form) { commands.runForm(form); };
     printWindows(program, ports.output);

@@ -164,4 +164,21 @@ struct Ports
     RandomNumbers &random;
 };
 
+/// The doors of a shell that holds each in a member of that name; `shell` outlives what they are
+/// given to.
+template <class Shell>
+[[nodiscard]] Ports portsOf(Shell &shell)
+{
+    return {.messages = shell.messages,
+            .files = shell.files,
+            .forms = shell.forms,
+            .help = shell.help,
+            .player = shell.player,
+            .sound = shell.sound,
+            .printer = shell.printer,
+            .screen = shell.screen,
+            .clock = shell.clock,
+            .random = shell.random};
+}
+
 } // namespace kavro

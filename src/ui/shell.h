@@ -1,10 +1,11 @@
 #pragma once
 
 #include "app/program.h"
+#include "core/machine_ports.h"
+#include "ui/desktop_screen.h"
 #include "ui/file_dialog.h"
 #include "ui/form_windows.h"
 #include "ui/help_browser.h"
-#include "ui/machine.h"
 #include "ui/message_dialog.h"
 #include "ui/pack_translator.h"
 #include "ui/text_printer.h"
@@ -37,8 +38,8 @@ private:
     FileDialogs m_files;
     FormWindows m_forms;
     HelpPages m_help;
-    NoPlayer m_player;
-    SilentSound m_sound;
+    NoPlayer m_player{QStringLiteral("This version has no media player yet.")};
+    NoSound m_sound;
     TextPrinter m_printer;
     DesktopScreen m_screen;
     SystemClock m_clock;

@@ -135,7 +135,7 @@ protected:
         std::ostringstream err;
         DrivePorts ports(out, err, std::nullopt);
         VerbFolders disk({});
-        Program program(ports.ports(), disk.store, disk.folders);
+        Program program(portsOf(ports), disk.store, disk.folders);
         program.startForVerb();
         DriveScript commands(in, {.program = program, .ports = ports, .err = err});
         ports.forms.runCommands = [&](Form &form) { commands.runForm(form); };

@@ -64,18 +64,4 @@ bool RecordedPrinter::print(const QString &title, const QStringList &lines)
     return available;
 }
 
-Ports ScriptedPorts::ports()
-{
-    return {.messages = messages,
-            .files = files,
-            .forms = forms,
-            .help = help,
-            .player = player,
-            .sound = sound,
-            .printer = printer,
-            .screen = screen,
-            .clock = clock,
-            .random = random};
-}
-
 } // namespace kavro::test

@@ -148,8 +148,6 @@ struct ScriptedPorts
     FakeScreen screen;
     FakeClock clock;
     FakeRandom random;
-
-    [[nodiscard]] Ports ports();
 };
 
 } // namespace kavro::test

@@ -41,7 +41,7 @@ Program &TestProgram::program()
                                     .userData = m_folder.filePath(u"user"_s),
                                     .temporary = m_folder.filePath(u"tmp"_s)};
         m_folders = std::make_unique<Folders>(store, sources, FolderUse::Own);
-        m_program = std::make_unique<Program>(doors.ports(), store, *m_folders);
+        m_program = std::make_unique<Program>(portsOf(doors), store, *m_folders);
     }
     return *m_program;
 }

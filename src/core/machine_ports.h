@@ -4,14 +4,7 @@
 
 namespace kavro {
 
-// What the program asks of the machine that it runs on.
-
-class DesktopScreen : public Screen
-{
-public:
-    [[nodiscard]] QSize size() const override;
-    [[nodiscard]] QStringList fonts() const override;
-};
+// Doors that every shell fills alike: with the machine's own, or with nothing.
 
 class SystemClock : public Clock
 {
@@ -25,8 +18,7 @@ public:
     [[nodiscard]] double next() override;
 };
 
-/// Plays nothing.
-class SilentSound : public Sound
+class NoSound : public Sound
 {
 public:
     void play(const QString &) override {}
@@ -36,6 +28,9 @@ public:
 class NoPlayer : public MediaPlayer
 {
 public:
+    /// @param missingText  why nothing plays, for a person
+    explicit NoPlayer(const QString &missingText) : m_missingText(missingText) {}
+
     bool open(const QString &) override { return false; }
     [[nodiscard]] QString fileName() const override { return {}; }
     [[nodiscard]] double duration() const override { return 0; }
@@ -44,7 +39,10 @@ public:
     void play() override {}
     void pause() override {}
     void stop() override {}
-    [[nodiscard]] QString missingText() const override;
+    [[nodiscard]] QString missingText() const override { return m_missingText; }
+
+private:
+    QString m_missingText;
 };
 
 } // namespace kavro

@@ -1,13 +1,10 @@
-#include "ui/machine.h"
+#include "ui/desktop_screen.h"
 
 #include <QFontDatabase>
 #include <QGuiApplication>
-#include <QRandomGenerator>
 #include <QScreen>
 
 namespace kavro {
-
-using namespace Qt::StringLiterals;
 
 QSize DesktopScreen::size() const
 {
@@ -18,16 +15,6 @@ QSize DesktopScreen::size() const
 QStringList DesktopScreen::fonts() const
 {
     return QFontDatabase::families();
-}
-
-double SystemRandom::next()
-{
-    return QRandomGenerator::global()->generateDouble();
-}
-
-QString NoPlayer::missingText() const
-{
-    return u"This version has no media player yet."_s;
 }
 
 } // namespace kavro

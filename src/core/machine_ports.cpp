@@ -1,0 +1,12 @@
+#include "core/machine_ports.h"
+
+#include <QRandomGenerator>
+
+namespace kavro {
+
+double SystemRandom::next()
+{
+    return QRandomGenerator::global()->generateDouble();
+}
+
+} // namespace kavro
