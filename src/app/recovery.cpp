@@ -4,6 +4,7 @@
 #include "core/folders.h"
 #include "core/messages.h"
 #include "core/ports.h"
+#include "core/run_lock.h"
 #include "core/safe_file.h"
 
 #include <QDir>
@@ -95,22 +96,19 @@ bool Recovery::lock(int number)
         return false;
     }
     const QString name = QString::number(number) + u".lock"_s;
-    auto lock = std::make_unique<QLockFile>(m_parts.folders.path(Folder::Recovery, name));
-    lock->setStaleLockTime(0); // a program may well run for days
-    if (!lock->tryLock()) {
-        return false;
-    }
-    m_lock = std::move(lock);
-    return true;
+    m_lock = takeRunLock(m_parts.folders.path(Folder::Recovery, name));
+    return m_lock != nullptr;
 }
 
 void Recovery::takeNumber()
 {
     for (int number = 1; number < mostPrograms; ++number) {
-        if (!QFileInfo::exists(fileOf(number)) && lock(number)) {
+        // A program that was killed a moment ago may have left its file meanwhile.
+        if (lock(number) && !QFileInfo::exists(fileOf(number))) {
             m_number = number;
             return;
         }
+        m_lock.reset();
     }
 }
 

@@ -1,6 +1,7 @@
 #include "core/folders.h"
 
 #include "core/line_reader.h"
+#include "core/run_lock.h"
 #include "core/safe_file.h"
 
 #include <QCoreApplication>
@@ -75,9 +76,7 @@ QString findShipped(const QString &executableFolder)
 
 std::unique_ptr<QLockFile> tryLock(const QString &folder)
 {
-    auto lock = std::make_unique<QLockFile>(folder + u'/' + lockName);
-    lock->setStaleLockTime(0); // a program may well run for days
-    return lock->tryLock() ? std::move(lock) : nullptr;
+    return takeRunLock(folder + u'/' + lockName);
 }
 
 QStringList filesBelow(const QString &folder)
