@@ -156,13 +156,21 @@ FileStatus Folders::prepare()
 }
 
 // A folder that holds a System of its own and no list was made by hand, and stays as it is. The
-// list tells what an update brought anew from what a person has deleted.
+// list tells what an update brought anew from what a person has deleted. An empty one stands ahead
+// of all else, so that the next start goes on where a filling was broken off.
 FileStatus Folders::fill()
 {
     const QString list = matchName(m_root, shippedList);
-    const bool isNew = !QFileInfo::exists(matchName(m_root, u"System"));
+    const bool isNew = QDir(matchName(m_root, u"System")).isEmpty();
     if (!m_mayFill || m_shipped.isEmpty() || (!isNew && !QFileInfo::exists(list)))
         return {};
+    if (isNew) {
+        FileStatus begun = m_store.makeFolder(QFileInfo(list).path());
+        if (begun.ok())
+            begun = writeList(list, {});
+        if (!begun.ok())
+            return begun;
+    }
     QSet<QString> known;
     LineReader reader;
     for (reader.open(list); !reader.atEnd();)
@@ -183,10 +191,13 @@ FileStatus Folders::fill()
         if (!status.ok())
             return status;
     }
-    if (!changed)
-        return {};
+    return changed ? writeList(list, names) : FileStatus{};
+}
+
+FileStatus Folders::writeList(const QString &path, const QStringList &names)
+{
     FileWriter writer(m_store);
-    writer.open(list);
+    writer.open(path);
     for (const QString &name : names)
         writer.writeLine(name);
     return writer.commit();

@@ -101,6 +101,7 @@ public:
 private:
     void chooseRoot(const FolderSources &sources, FolderUse use);
     FileStatus fill();
+    FileStatus writeList(const QString &path, const QStringList &names);
     void lockTemporary();
     void clearTemporary();
     void removeAllFiles(const QString &folder);

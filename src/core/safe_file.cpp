@@ -44,6 +44,13 @@ bool renameOver(const QString &from, const QString &to)
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
 }
 
+/// A name in a folder for a file that is on its way to another name.
+QString newNameIn(const QString &folder)
+{
+    return u"%1/.kavro-%2"_s.arg(folder).arg(QRandomGenerator::system()->generate64(), 16, 16,
+                                             QChar(u'0'));
+}
+
 /// Where a name leads, through links, also to a file that isn't there yet.
 struct Destination
 {
@@ -123,8 +130,8 @@ FileStatus FileStore::copy(const QString &from, const QString &to)
     QFile source(from);
     if (!source.open(QIODevice::ReadOnly))
         return {.fault = FileFault::Unreadable, .text = source.errorString()};
-    QFile copy(to);
-    if (!copy.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
+    QFile copy(newNameIn(QFileInfo(to).absolutePath()));
+    if (!copy.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return faultOf(copy);
     FileStatus status;
     while (status.ok() && !source.atEnd()) {
@@ -137,6 +144,8 @@ FileStatus FileStore::copy(const QString &from, const QString &to)
     }
     if (status.ok() && source.error() != QFileDevice::NoError)
         status = {.fault = FileFault::Unreadable, .text = source.errorString()};
+    if (status.ok() && !renameOver(copy.fileName(), to))
+        status = {.fault = FileFault::Unwritable, .text = describe(errno)};
     if (!status.ok())
         copy.remove();
     return status;
@@ -177,9 +186,7 @@ bool FileWriter::openBeside(const QString &target)
     // The rename would pass over a write protection that a person has set.
     if (old.exists() && !old.isWritable())
         return fail(FileFault::Unwritable, describe(EACCES));
-    const QString name =
-        u"/.kavro-%1"_s.arg(QRandomGenerator::system()->generate64(), 16, 16, QChar(u'0'));
-    if (!openAs(old.absolutePath() + name, QIODevice::NewOnly))
+    if (!openAs(newNameIn(old.absolutePath()), QIODevice::NewOnly))
         return false;
     m_target = target;
     if (old.exists())

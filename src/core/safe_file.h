@@ -32,7 +32,7 @@ public:
     /// Deletes a folder with all that is in it; one that isn't there is no fault.
     FileStatus removeFolder(const QString &path);
 
-    /// Copies the bytes of a file; `to` is replaced, and is gone when that fails.
+    /// Copies the bytes of a file; `to` is replaced by the complete copy alone.
     FileStatus copy(const QString &from, const QString &to);
 
 private:

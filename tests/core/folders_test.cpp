@@ -111,15 +111,19 @@ TEST_F(FoldersTest, FolderMadeByHandStaysAsItIs)
               disk.path("given/SYSTEM/Language/Help/English/tip.sdf"));
 }
 
-TEST_F(FoldersTest, FullDiskAtTheFirstStartIsTold)
+TEST_F(FoldersTest, FirstStartOnAFullDiskIsToldAndTheNextFillsTheRest)
 {
-    store.setFreeBytes(3);
-    Folders folders(store, sources, FolderUse::Own);
-    EXPECT_EQ(folders.prepare().fault, FileFault::DiskFull);
-    store.setFreeBytes({});
-    EXPECT_TRUE(folders.prepare().ok());
-    EXPECT_EQ(disk.read("home/kavro/System/Settings/set.sdf"), "shipped")
-        << "the next start fills the rest";
+    for (const qint64 bytes : {3, 7, 12}) {
+        disk.makeFolder("home/kavro/System");
+        store.setFreeBytes(bytes);
+        EXPECT_EQ(Folders(store, sources, FolderUse::Own).prepare().fault, FileFault::DiskFull);
+        store.setFreeBytes({});
+        make();
+        EXPECT_EQ(disk.read("home/kavro/Data/Calculator/default.sac"), "cels") << bytes;
+        EXPECT_EQ(disk.read("home/kavro/System/Language/Dutch.lng"), "Dutch") << bytes;
+        EXPECT_EQ(disk.read("home/kavro/System/Settings/set.sdf"), "shipped") << bytes;
+        EXPECT_TRUE(store.removeFolder(disk.path("home/kavro")).ok());
+    }
 }
 
 TEST_F(FoldersTest, TemporaryFilesGoAtStartAndExit)
