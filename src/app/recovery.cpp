@@ -132,7 +132,7 @@ void Recovery::followChanges(bool changed)
     m_dirty = changed;
     timRecovery.setOn(changed && m_number > 0);
     if (!changed && m_number > 0) {
-        m_writer.start([file = fileOf(m_number)] { QFile::remove(file); });
+        inTheBackground([file = fileOf(m_number)] { QFile::remove(file); });
     }
 }
 
@@ -142,17 +142,24 @@ void Recovery::keep()
         return;
     }
     // A writing that fails is tried again with the next change; nobody is disturbed for it.
-    m_writer.start([file = fileOf(m_number),
-                    document = KeptDocument::of(m_parts.document, m_parts.ports.clock.now())] {
+    inTheBackground([file = fileOf(m_number),
+                     document = KeptDocument::of(m_parts.document, m_parts.ports.clock.now())] {
         writeRecovery(file, document);
     });
+}
+
+// Whatever still waits for a slow disk is out of date.
+void Recovery::inTheBackground(const std::function<void()> &job)
+{
+    m_writer.clear();
+    m_writer.start(job);
 }
 
 void Recovery::end()
 {
     timRecovery.setOn(false);
     if (m_number > 0) {
-        m_writer.start([file = fileOf(m_number)] { QFile::remove(file); });
+        inTheBackground([file = fileOf(m_number)] { QFile::remove(file); });
         finishWriting();
     }
     m_number = 0;

@@ -61,6 +61,7 @@ private:
     void watch();
     void followChanges(bool changed);
     void keep();
+    void inTheBackground(const std::function<void()> &job);
     bool offer(const QString &file, const QString &namedFile, bool &goOn);
     void takeNumber();
     bool lock(int number);
