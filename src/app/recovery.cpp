@@ -21,6 +21,15 @@ namespace {
 constexpr int tick = 3000; ///< milliseconds between two writings
 constexpr int mostPrograms = 100;
 
+/// Also of names that lead to no file any more.
+bool isSameFile(const QString &a, const QString &b)
+{
+    const QFileInfo first(a);
+    const QFileInfo second(b);
+    return first.absoluteFilePath() == second.absoluteFilePath()
+           || (first.exists() && first == second);
+}
+
 } // namespace
 
 Recovery::Recovery(Form &frmMain, Parts parts)
@@ -69,7 +78,7 @@ bool Recovery::offer(const QString &file, const QString &namedFile, bool &goOn)
         QFile::rename(file, file + u".bad"_s);
         return false;
     }
-    if (!namedFile.isEmpty() && QFileInfo(namedFile) != QFileInfo(kept->subFileName)) {
+    if (!namedFile.isEmpty() && !isSameFile(namedFile, kept->subFileName)) {
         return false;
     }
     const Answer answer = m_parts.messages.ShowMessage(

@@ -177,14 +177,21 @@ TEST_F(RecoveryTest, AFileNamedAtTheStartIsOfferedItsOwnChangesAlone)
     tick();
     const QString file = run->document.subFileName;
     const QString other = run.write(u"other.srt"_s, twoSubtitles());
-    run.restart();
-    run.start(other);
-    EXPECT_TRUE(run.takeMessages().isEmpty());
-    EXPECT_EQ(run->document.subFileName, other);
-    run.restart();
-    run.doors.messages.answer(Answer::Yes);
-    run.start(file);
-    EXPECT_EQ(run->editor.grdSubEdit.text(1, FirstTextColumn), u"changed "_s);
+    for (const bool gone : {false, true}) {
+        SCOPED_TRACE(gone);
+        if (gone) {
+            ASSERT_TRUE(QFile::remove(file) && QFile::remove(other));
+        }
+        run.restart();
+        run.start(other);
+        EXPECT_EQ(run.takeMessages().size(), gone ? 1 : 0) << "there is nothing to load";
+        EXPECT_EQ(run->document.subFileName, gone ? QString() : other);
+        run.restart();
+        run.doors.messages.answer(Answer::Yes);
+        run.start(file);
+        EXPECT_EQ(run->editor.grdSubEdit.text(1, FirstTextColumn), u"changed "_s);
+        run.takeMessages();
+    }
 }
 
 TEST_F(RecoveryTest, ADamagedFileIsPutAside)
