@@ -65,6 +65,7 @@ constexpr LanguageRow messageTexts[] = {
     {56, u"", u"Line %1 and line %2 start at the same time: there is no length to stretch./nNothing was changed."},
     {57, u"", u"Line %1 would start before the first time, %2./nNothing was changed."},
     {58, u"", u"No line is selected./nNothing was changed."},
+    {59, u"", u"The program ended before the changes of this file were saved:/n%1/n%2 subtitles, kept at %3. The file itself was written once more after that./nDo you want to bring the changes back? If you choose 'No', they are lost."},
 };
 
 constexpr LanguageSection sections[] = {

@@ -30,6 +30,12 @@ bool isSameFile(const QString &a, const QString &b)
            || (first.exists() && first == second);
 }
 
+bool isNewer(const QString &file, const QString &than)
+{
+    return QFileInfo::exists(file)
+           && QFileInfo(file).lastModified() > QFileInfo(than).lastModified();
+}
+
 } // namespace
 
 Recovery::Recovery(Form &frmMain, Parts parts)
@@ -71,7 +77,7 @@ bool Recovery::begin(const QString &namedFile)
 
 bool Recovery::offer(const QString &file, const QString &namedFile, bool &goOn)
 {
-    const std::optional<KeptDocument> kept = readRecovery(file);
+    std::optional<KeptDocument> kept = readRecovery(file);
     if (!kept) {
         // It stays under another name: what nobody can read today is still not ours to delete.
         QFile::remove(file + u".bad"_s);
@@ -81,14 +87,13 @@ bool Recovery::offer(const QString &file, const QString &namedFile, bool &goOn)
     if (!namedFile.isEmpty() && !isSameFile(namedFile, kept->subFileName)) {
         return false;
     }
-    const Answer answer = m_parts.messages.ShowMessage(
-        {u"The program ended before the changes of this file were saved:/n%1/n%2 subtitles, kept "
-         u"at "
-         "%3./nDo you want to bring them back? If you choose 'No', they are lost."_s,
-         {kept->subFileName, QString::number(kept->subtitleCount()),
-          kept->time.toString(u"yyyy-MM-dd HH:mm:ss"_s)}},
-        Answer::Yes, u"yesnocancel"_s, u"Unsaved changes"_s);
+    const bool overtaken = isNewer(kept->savedPath, file);
+    const Answer answer = ask(*kept, overtaken);
     if (answer == Answer::Yes) {
+        if (overtaken) {
+            // A save has to ask before it replaces what was written meanwhile.
+            kept->savedPath.clear();
+        }
         m_parts.bringBack(*kept);
         return true;
     }
@@ -97,6 +102,21 @@ bool Recovery::offer(const QString &file, const QString &namedFile, bool &goOn)
     }
     goOn = answer == Answer::No;
     return false;
+}
+
+Answer Recovery::ask(const KeptDocument &kept, bool overtaken)
+{
+    const QString text =
+        overtaken
+            ? u"The program ended before the changes of this file were saved:/n%1/n%2 subtitles, "
+              "kept at %3. The file itself was written once more after that./nDo you want to bring "
+              "the changes back? If you choose 'No', they are lost."_s
+            : u"The program ended before the changes of this file were saved:/n%1/n%2 subtitles, "
+              "kept at %3./nDo you want to bring them back? If you choose 'No', they are lost."_s;
+    return m_parts.messages.ShowMessage({text,
+                                         {kept.subFileName, QString::number(kept.subtitleCount()),
+                                          kept.time.toString(u"yyyy-MM-dd HH:mm:ss"_s)}},
+                                        Answer::Yes, u"yesnocancel"_s, u"Unsaved changes"_s);
 }
 
 bool Recovery::lock(int number)

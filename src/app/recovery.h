@@ -15,6 +15,7 @@ class Folders;
 class Form;
 class Messages;
 class FileStore;
+enum class Answer;
 struct Ports;
 
 /// Keeps the unsaved changes of the document in a file of their own, so that a program that was
@@ -45,7 +46,8 @@ public:
 
     /// Offers what killed programs left, the newest first, and begins to keep the document. Yes
     /// brings a document back, no deletes its file, cancel leaves it and the rest for a later
-    /// start. With a file named for this start only what was kept of that file is offered.
+    /// start. With a file named for this start only what was kept of that file is offered. A file
+    /// that was written after its changes were kept isn't replaced by a save that asks nothing.
     ///
     /// @return  true when a document was brought back
     bool begin(const QString &namedFile);
@@ -63,6 +65,7 @@ private:
     void keep();
     void inTheBackground(const std::function<void()> &job);
     bool offer(const QString &file, const QString &namedFile, bool &goOn);
+    Answer ask(const KeptDocument &kept, bool overtaken);
     void takeNumber();
     bool lock(int number);
     [[nodiscard]] QString fileOf(int number) const;

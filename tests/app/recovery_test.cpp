@@ -194,6 +194,34 @@ TEST_F(RecoveryTest, AFileNamedAtTheStartIsOfferedItsOwnChangesAlone)
     }
 }
 
+TEST_F(RecoveryTest, AFileThatWasWrittenSinceIsNotReplacedUnasked)
+{
+    enum class Source { Same, Written, Gone };
+    for (const Source source : {Source::Same, Source::Written, Source::Gone}) {
+        SCOPED_TRACE(static_cast<int>(source));
+        run.doors.files.shown.clear();
+        work();
+        tick();
+        QFile file(run->document.subFileName);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        file.setFileTime(QDateTime::currentDateTime().addDays(source == Source::Written ? 1 : -1),
+                         QFileDevice::FileModificationTime);
+        file.close();
+        ASSERT_TRUE(source != Source::Gone || file.remove());
+        run.restart();
+        run.doors.messages.answer(Answer::Yes);
+        run.start();
+        const bool asks = source == Source::Written;
+        EXPECT_EQ(run.takeMessages().constFirst().contains(u"once more"_s), asks);
+        run->menu.mnuSave.click();
+        EXPECT_EQ(run.doors.files.shown.size(), asks ? 1 : 0);
+        EXPECT_EQ(TestProgram::read(file.fileName()).contains(u"changed"_s), !asks);
+        run->document.setFileChanged(false);
+        EXPECT_TRUE(run->exit());
+        run.restart();
+    }
+}
+
 TEST_F(RecoveryTest, ADamagedFileIsPutAside)
 {
     work();
