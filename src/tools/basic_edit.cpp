@@ -119,6 +119,8 @@ void BasicEdit::moveRowsDown(int row)
     });
     const auto &[font, style] = document.fonts.Combo9;
     m_editor.lstFont.insertItem(row, font.selectedText() % u";Western;" % style.selectedText());
+    // The end row is a new one, without the font that the old one may have had.
+    m_editor.lstFont.setItem(m_editor.grdSubEdit.rows() - 1, {});
     // The finding of the row above is copied into the new row.
     QStringList errors = document.rowErrors();
     if (row <= errors.size()) {
