@@ -60,32 +60,6 @@ TEST_F(PartitionListTest, TheNumberIsNoCellToEdit)
     EXPECT_EQ(rows(), "1 one |  ");
 }
 
-TEST_F(PartitionListTest, TheBoxFollowsTheCell)
-{
-    edit(1, PartNameColumn, u"one"_s);
-    edit(1, PartLengthColumn, u"00:10:00,000"_s);
-    const struct
-    {
-        int row;
-        int col;
-        const char *text;
-        bool box;
-        bool calculator;
-    } cells[] = {
-        {1, PartNameColumn, "one", true, false},
-        {1, PartLengthColumn, "00:10:00,000", true, true},
-        {2, PartLengthColumn, "", true, true},
-        {1, PartNumberColumn, "1", false, false},
-        {0, PartNameColumn, "Filename", false, false},
-    };
-    for (const auto &cell : cells) {
-        grid.setCurrent(cell.row, cell.col);
-        EXPECT_EQ(list.rtfSplitEdit.text().toStdString(), cell.text);
-        EXPECT_EQ(list.rtfSplitEdit.isVisible(), cell.box) << cell.text;
-        EXPECT_EQ(list.cmdInvSplitCalc.isVisible(), cell.calculator) << cell.text;
-    }
-}
-
 TEST_F(PartitionListTest, KeysGoBetweenTheListAndItsBox)
 {
     int calculator = 0;
@@ -143,51 +117,6 @@ TEST_F(PartitionListTest, PartsFromElsewhereCanBeRemoved)
     EXPECT_EQ(rows(), "1 first 00:10:00,000|2 no length |3 third |  ");
     run->dropFile(film);
     EXPECT_EQ(run->partition.partCount(), 3) << "the list survives a load";
-}
-
-TEST_F(PartitionListTest, RemovingNumbersAnewAndGoesToTheLastPart)
-{
-    for (const QString &name : {u"a"_s, u"b"_s, u"c"_s, u"d"_s}) {
-        run->partition.append(name, {});
-    }
-    const struct
-    {
-        int row;
-        const char *rows;
-        int current;
-    } steps[] = {
-        {2, "1 a |2 c |3 d |  ", 3}, {4, "1 a |2 c |3 d |  ", 3}, // the end row is none
-        {3, "1 a |2 c |  ", 2},      {1, "1 c |  ", 1},           {1, "  ", 1},
-    };
-    bool clear = false;
-    for (const auto &step : steps) {
-        grid.moveTo(step.row, PartNameColumn);
-        if (clear) {
-            list.Label66.click();
-        } else {
-            list.command6.click();
-        }
-        EXPECT_EQ(rows(), step.rows);
-        EXPECT_EQ(grid.row(), step.current) << step.rows;
-        EXPECT_EQ(list.rtfSplitEdit.text(), grid.text(step.current, PartNameColumn));
-        EXPECT_EQ(run->trace.lastActionCode, clear ? 403 : 402);
-        clear = !clear;
-    }
-    EXPECT_FALSE(list.command6.isEnabled());
-    EXPECT_FALSE(list.Label66.isEnabled());
-}
-
-TEST_F(PartitionListTest, FormatIsRecordedWhenItIsPicked)
-{
-    DropList &combo3 = run->formats.combo3;
-    combo3.toggle()->click();
-    combo3.pick(15);
-    EXPECT_EQ(run->trace.lastActionCode, 420);
-    EXPECT_EQ(combo3.label()->caption(), u"Zero G"_s);
-    combo3.pick(0);
-    EXPECT_EQ(run->trace.lastActionCode, 405);
-    combo3.setSelected(3);
-    EXPECT_EQ(run->trace.lastActionCode, 405) << "a load selects without a word";
 }
 
 } // namespace

@@ -51,20 +51,6 @@ TEST(ScriptPreview, ItsButtonAndItsCloseButtonCloseIt)
     EXPECT_FALSE(form.isOpen());
 }
 
-TEST(ScriptPreview, AFailedRunOpensNoWindow)
-{
-    TestProgram run;
-    run.start(run.write(u"film.srt"_s, twoSubtitles()));
-    bool opened = false;
-    QObject::connect(&run->frmPreview, &Form::openChanged, &run->frmPreview,
-                     [&] { opened = true; });
-    run.store.setFreeBytes(3);
-    run->menu.mnuPreview.click();
-    EXPECT_EQ(run.takeMessages(), QStringList(u"Error writing file (No space left on device)."_s));
-    EXPECT_FALSE(opened);
-    EXPECT_EQ(run->scriptPreview.List1.count(), 0);
-}
-
 TEST(ScriptPreview, AutoHelpBringsItsPage)
 {
     TestProgram run;

@@ -44,21 +44,6 @@ protected:
         return QDir(run.path(u"films"_s)).entryList(QDir::Files, QDir::Name).join(u' ');
     }
 
-    /// The visible ones of the controls that the preview switches.
-    [[nodiscard]] std::string shown() const
-    {
-        QStringList names;
-        for (const QString &name :
-             {u"rtfSplitEdit"_s, u"Label8"_s, u"command5"_s, u"command6"_s, u"Label66"_s,
-              u"command28"_s, u"command29(0)"_s, u"command29(1)"_s, u"Label7"_s, u"txtPreview"_s})
-        {
-            if (run->control(name)->isVisible()) {
-                names.append(name);
-            }
-        }
-        return names.join(u' ').toStdString();
-    }
-
     /// Label7 and the preview's first line with a text.
     [[nodiscard]] std::string preview() const
     {
@@ -105,62 +90,6 @@ TEST_F(SplitOutputTest, NothingIsWrittenWhenANameIsBad)
     split.command5.click();
     EXPECT_EQ(run.takeMessages(), QStringList());
     EXPECT_TRUE(QFileInfo::exists(run.path(u"films/"_s + QString(251, u'x') + u".srt"_s)));
-}
-
-TEST_F(SplitOutputTest, AnExistingFileIsAskedAboutAndANoEndsTheRun)
-{
-    setTwoParts();
-    run.write(u"films/a.srt"_s, u"mine"_s);
-    split.command5.click();
-    EXPECT_EQ(run.takeMessages().size(), 1);
-    EXPECT_EQ(run.read(run.path(u"films/a.srt"_s)), u"mine"_s);
-    EXPECT_EQ(files(), u"a.srt film.srt"_s);
-    run.doors.messages.answer(Answer::Yes);
-    split.command5.click();
-    EXPECT_EQ(files(), u"a.srt b.srt film.srt"_s);
-}
-
-TEST_F(SplitOutputTest, WithoutADocumentNothingIsMade)
-{
-    TestProgram empty;
-    empty.start();
-    empty->partition.append(u"a"_s, ten);
-    empty->splitOutput.command5.click();
-    EXPECT_EQ(empty.takeMessages(),
-              QStringList(u"There is no subtitle to make parts of. Please load a file first."_s));
-    EXPECT_FALSE(QFileInfo::exists(u"a.srt"_s));
-}
-
-TEST_F(SplitOutputTest, PreviewShowsPartAfterPart)
-{
-    setTwoParts();
-    const std::string editing = "rtfSplitEdit Label8 command5 command6 Label66 command28";
-    EXPECT_EQ(shown(), editing);
-    split.command28.click();
-    EXPECT_EQ(shown(), "command28 command29(0) command29(1) Label7 txtPreview");
-    EXPECT_FALSE(formats.isAvailable());
-    EXPECT_EQ(split.command28.caption(), u"Preview.Exit"_s);
-    EXPECT_EQ(split.command28.toolTip(), u"Exit preview of subtitle file"_s);
-    EXPECT_EQ(split.Label6.caption(), u"Preview"_s);
-    EXPECT_EQ(run->trace.lastActionCode, 401);
-    EXPECT_EQ(preview(), "# 1 = a [SubRip] / One ☃");
-    for (const auto &[button, expected] :
-         {std::pair(0, "# 1 = a [SubRip] / One ☃"), std::pair(1, "# 2 = b [SubRip] / Three"),
-          std::pair(1, "# 2 = b [SubRip] / Three"), std::pair(0, "# 1 = a [SubRip] / One ☃")})
-    {
-        split.command29[button].click();
-        EXPECT_EQ(preview(), expected);
-    }
-    run->partition.grid.click(2, PartNameColumn);
-    EXPECT_FALSE(run->partitionList.rtfSplitEdit.isVisible()) << "nothing is edited meanwhile";
-    split.command28.click();
-    EXPECT_EQ(shown(), editing);
-    EXPECT_TRUE(formats.isAvailable());
-    EXPECT_EQ(split.command28.caption(), u"Preview"_s);
-    EXPECT_EQ(split.Label6.caption(), u"Parts"_s);
-    EXPECT_EQ(split.txtPreview.text(), QString());
-    EXPECT_EQ(run->trace.lastActionCode, 423);
-    EXPECT_EQ(files(), u"film.srt"_s);
 }
 
 TEST_F(SplitOutputTest, TheWholeFileIsShownWhateverTheDocumentsEncodingIs)
@@ -234,19 +163,6 @@ TEST_F(SplitOutputTest, ALostPreviewIsTold)
     EXPECT_EQ(preview(), "# 2 = b [SubRip] / ");
     split.command29[0].click();
     EXPECT_EQ(preview(), "# 1 = a [SubRip] / One ☃");
-}
-
-TEST_F(SplitOutputTest, AFailedRunShowsNoOlderPreview)
-{
-    setTwoParts();
-    split.command28.click();
-    split.command28.click();
-    run.store.setFreeBytes(120);
-    split.command28.click();
-    split.command29[1].click();
-    EXPECT_EQ(run.takeMessages(), (QStringList{u"Error writing file (No space left on device)."_s,
-                                               u"There is no preview of part 2."_s}));
-    EXPECT_EQ(split.txtPreview.text(), QString());
 }
 
 TEST_F(SplitOutputTest, TheEndOfThePreviewClearsTheApplicationFolderAlone)

@@ -134,48 +134,35 @@ TEST_F(BasicEditTest, DeleteMovesUpWhatStandsBelow)
     const struct
     {
         int row;
-        const char *texts, *numbers, *fonts, *detail;
+        const char *texts, *fonts;
     } rows[] = {
-        {1, "2|3|", "{ 1|2 }|", "f2 f3",
-         "[Cel 1,1:=00:00:01,000] [Cel 1,2:=00:00:02,000] "
-         "[Cel 1,3:= 1]"},
-        {2, "1|3|", "{ 1|2 }|", "f1 f3",
-         "[Cel 2,1:=00:00:01,000] [Cel 2,2:=00:00:02,000] "
-         "[Cel 2,3:= 2]"},
-        {3, "1|2|", "{ 1|2 }|", "f1 f2",
-         "[Cel 3,1:=00:00:01,000] [Cel 3,2:=00:00:02,000] "
-         "[Cel 3,3:= 3]"},
+        {1, "2|3|4|", "f2 f3 f4"},
+        {2, "1|3|4|", "f1 f3 f4"},
+        {3, "1|2|4|", "f1 f2 f4"},
+        {4, "1|2|3|", "f1 f2 f3"},
     };
     int line = 0;
     for (const auto &row : rows) {
-        fillRows(3);
-        editor.lstFont.setItems({u""_s, u"f1"_s, u"f2"_s, u"f3"_s});
+        fillRows(4);
+        editor.lstFont.setItems({u""_s, u"f1"_s, u"f2"_s, u"f3"_s, u"f4"_s});
         grid.setRow(row.row);
         editor.Command11.click();
         EXPECT_EQ(texts(), row.texts);
-        EXPECT_EQ(texts(NumberColumn), row.numbers) << row.row;
-        EXPECT_EQ(nodes(), "1-2 1-2") << row.row;
+        EXPECT_EQ(texts(NumberColumn), "{ 1|2|3 }|") << row.row << ": numbers stay in their rows";
+        EXPECT_EQ(nodes(), "1-3 1-3") << row.row;
         EXPECT_EQ(editor.lstFont.items().join(u' ').trimmed().toStdString(), row.fonts);
-        EXPECT_EQ(times.Text1[1].text(), u"2");
-        EXPECT_EQ(times.Text1[3].text(), u"2");
+        EXPECT_EQ(times.Text1[1].text(), u"3");
+        EXPECT_EQ(times.Text1[3].text(), u"3");
         EXPECT_EQ(
             history.List1.item(line),
             u"%1 [2024-03-01,12:30:15] Row %2 deleted"_s.arg(line, 4, 10, '0'_L1).arg(row.row));
-        EXPECT_EQ(history.List2.item(line++).toStdString(), row.detail);
+        EXPECT_EQ(
+            history.List2.item(line++),
+            u"[Cel %1,1:=00:00:01,000] [Cel %1,2:=00:00:02,000] [Cel %1,3:= %1]"_s.arg(row.row));
         EXPECT_EQ(trace.lastActionCode, 502);
         EXPECT_TRUE(document.fileChanged());
         EXPECT_FALSE(document.subtitleChanged);
         EXPECT_EQ(grid.row(), row.row);
-    }
-}
-
-TEST_F(BasicEditTest, DeleteLeavesTheNumbersInTheirRows)
-{
-    for (int row = 1; row <= 6; ++row) {
-        fillRows(6);
-        grid.setRow(row);
-        editor.Command11.click();
-        EXPECT_EQ(texts(NumberColumn), "{ 1|2|3|4|5 }|") << row;
     }
 }
 

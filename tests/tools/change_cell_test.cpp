@@ -70,49 +70,5 @@ TEST_F(ChangeCell, ChangeLogsTheStateBefore)
                                      "[Cel 3,2:= other] [Cel 5,2:=x]"_s);
 }
 
-TEST_F(ChangeCell, EditBoxOffersToClipWhatIsNotBlank)
-{
-    fillTwo();
-    grid.setCurrent(1, 4);
-    for (const auto &[typed, offered] :
-         {QPair<QStringView, bool>{u"  ", false}, {u" a", true}, {u"", false}})
-    {
-        editor.rtfSubEditBasic.type(typed.toString());
-        EXPECT_EQ(editor.Command47.isEnabled(), offered) << typed.toString().toStdString();
-    }
-    editor.rtfSubEditBasic.type(u"some text"_s);
-    editor.rtfSubEditBasic.setFocus();
-    EXPECT_EQ(editor.rtfSubEditBasic.selLength(), 9);
-    EXPECT_EQ(editor.rtfEdit.text(), u"some text"_s);
-    editor.rtfSubEditBasic.press(Key::Enter);
-    EXPECT_EQ(grid.text(1, 4), u"some text "_s);
-}
-
-TEST_F(ChangeCell, EnterInTheCellEditorChangesTheCell)
-{
-    fillTwo();
-    grid.setCurrent(2, 3);
-    grid.setFocus();
-    grid.press(Key::Enter);
-    editor.rtfEdit.type(u"edited"_s);
-    editor.rtfEdit.press(Key::Enter);
-    EXPECT_EQ(grid.text(2, 3), u"edited "_s);
-    EXPECT_EQ(editor.rtfEdit.text(), u"edited"_s);
-    EXPECT_TRUE(grid.hasFocus());
-    EXPECT_EQ(trace.lastActionCode, 504);
-}
-
-TEST_F(ChangeCell, EnterWhileRecordingLeavesTheCell)
-{
-    fillTwo();
-    grid.setCurrent(2, 3);
-    trace.recorderState = 1;
-    editor.rtfEdit.type(u"edited"_s);
-    editor.rtfEdit.press(Key::Enter);
-    EXPECT_EQ(grid.text(2, 3), u" other"_s);
-    EXPECT_EQ(trace.lastActionCode, 505);
-    EXPECT_EQ(trace.lastActionText, u"edited"_s);
-}
-
 } // namespace
 } // namespace kavro

@@ -202,20 +202,6 @@ TEST_F(ClipboardTest, DeleteAndClearEndWithTheButtonsOff)
     EXPECT_EQ(enabled(), "00000");
 }
 
-TEST_F(ClipboardTest, ChangeAndDeleteWithoutAnItemSayItAndDoNoHarm)
-{
-    panel.add(u"a"_s);
-    panel.List1.setSelected(-1);
-    tool.rtfClipBoard.type(u"typed"_s);
-    for (const int button : {2, 3}) {
-        panel.command4[button].click();
-        EXPECT_EQ(run.takeMessages(),
-                  QStringList{u"Please select an item from the Clipboard 1st."_s});
-        EXPECT_EQ(panel.List1.items(), QStringList{u"a"_s});
-        EXPECT_EQ(tool.rtfClipBoard.text(), u"typed"_s);
-    }
-}
-
 TEST_F(ClipboardTest, FocusSelectsTheWholeField)
 {
     panel.add(u"item"_s);

@@ -48,15 +48,6 @@ TEST_F(FiltersTest, ReverseTurnsEachCellAndPutsABlankInFront)
     }
 }
 
-TEST_F(FiltersTest, ASecondReversalPilesUpBlanks)
-{
-    tool.Check4[0].setOn(true);
-    fill({u"1|2|abc"_s});
-    tool.Command30.click();
-    tool.Command30.click();
-    EXPECT_EQ(cells(), QStringList{u"1|2| abc |  |  "_s});
-}
-
 TEST_F(FiltersTest, LongLinesBreakAtTheFirstBlankBehindTheLimit)
 {
     const struct
@@ -91,14 +82,6 @@ TEST_F(FiltersTest, LongLinesBreakAtTheFirstBlankBehindTheLimit)
         EXPECT_EQ(applied(row.before), row.after) << row.name;
         EXPECT_TRUE(tool.txtMaxCount.isEnabled());
     }
-}
-
-TEST_F(FiltersTest, BothTurnFirst)
-{
-    tool.Check4[0].setOn(true);
-    tool.Check4[1].setOn(true);
-    tool.txtMaxCount.setText(u"3"_s);
-    EXPECT_EQ(applied(u"abc def"_s), u"fed |cba |"_s);
 }
 
 TEST_F(FiltersTest, HistoryAndFlagsOfARun)

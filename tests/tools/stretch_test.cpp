@@ -1,4 +1,5 @@
 #include "tests/tools/timing_test.h"
+#include "tools/row_range.h"
 
 namespace kavro::test {
 namespace {
@@ -8,11 +9,11 @@ using namespace Qt::StringLiterals;
 class StretchTest : public TimingTest
 {
 protected:
-    /// Stretches rows `first` to `last` onto those two starts.
-    void stretch(int first, int last, const QString &firstTime, const QString &lastTime)
+    /// Stretches the rows onto those two starts.
+    void stretch(const RowRange &rows, const QString &firstTime, const QString &lastTime)
     {
-        times.Text1[2].type(QString::number(first));
-        times.Text1[3].type(QString::number(last));
+        times.Text1[2].type(QString::number(rows.first));
+        times.Text1[3].type(QString::number(rows.last));
         times.rtfStretchFirst.type(firstTime);
         times.rtfStretchLast.type(lastTime);
         tool.Command12.click();
@@ -35,7 +36,7 @@ TEST_F(StretchTest, StartsAreScaledAndLengthsKept)
 {
     fill({u"00:00:00,000|00:00:02,000| a"_s, u"00:00:10,000|00:00:12,000| b"_s,
           u"00:00:20,000|00:00:22,000| c"_s});
-    stretch(1, 3, u"00:00:10,000"_s, u"00:00:50,000"_s);
+    stretch({1, 3}, u"00:00:10,000"_s, u"00:00:50,000"_s);
     EXPECT_EQ(cells(),
               (QStringList{u"00:00:10,000|00:00:12,000| a"_s, u"00:00:30,000|00:00:32,000| b"_s,
                            u"00:00:50,000|00:00:52,000| c"_s}));
@@ -53,46 +54,22 @@ TEST_F(StretchTest, Ranges)
     {
         const char *name;
         QList<int> before;
-        int first, last;
-        QString firstTime, lastTime;
+        RowRange rows;
+        QString firstTime, lastTime; ///< to the second
         std::string after;
     } rows[] = {
-        {"part of the rows",
-         {0, 10, 20, 30},
-         2,
-         3,
-         u"00:00:12,000"_s,
-         u"00:00:14,000"_s,
-         "0 12 14 30"},
-        {"to one moment", {0, 10, 20}, 1, 3, u"00:00:05,000"_s, u"00:00:05,000"_s, "5 5 5"},
-        {"a line behind the last",
-         {0, 30, 20},
-         1,
-         3,
-         u"00:00:00,000"_s,
-         u"00:00:40,000"_s,
-         "0 60 40"},
-        {"a range that runs back",
-         {20, 10, 0},
-         1,
-         3,
-         u"00:00:20,000"_s,
-         u"00:00:40,000"_s,
-         "20 30 40"},
-        {"from before zero", {10, 20}, 1, 2, u"-1:59:59,000"_s, u"00:00:01,000"_s, "-1 1"},
-        {"no row", {0, 10}, 2, 1, u"00:00:40,000"_s, u"00:00:50,000"_s, "0 10"},
-        {"times that are none", {0, 10}, 1, 2, u"first"_s, u""_s, "0 0"},
-        {"to beyond the last hour",
-         {0, 2, 1},
-         1,
-         3,
-         u"60:00:00,000"_s,
-         u"99:59:59,000"_s,
-         "216000 216000 359999"},
+        {"part", {0, 10, 20, 30}, {2, 3}, u"00:00:12"_s, u"00:00:14"_s, "0 12 14 30"},
+        {"to one moment", {0, 10, 20}, {1, 3}, u"00:00:05"_s, u"00:00:05"_s, "5 5 5"},
+        {"one behind", {0, 30, 20}, {1, 3}, u"00:00:00"_s, u"00:00:40"_s, "0 60 40"},
+        {"runs back", {20, 10, 0}, {1, 3}, u"00:00:20"_s, u"00:00:40"_s, "20 30 40"},
+        {"from before zero", {10, 20}, {1, 2}, u"-1:59:59"_s, u"00:00:01"_s, "-1 1"},
+        {"no row", {0, 10}, {2, 1}, u"00:00:40"_s, u"00:00:50"_s, "0 10"},
+        {"no times", {0, 10}, {1, 2}, u"first"_s, u""_s, "0 0"},
+        {"too late", {0, 2, 1}, {1, 3}, u"60:00:00"_s, u"99:59:59"_s, "216000 216000 359999"},
     };
     for (const auto &row : rows) {
         fillSeconds(row.before);
-        stretch(row.first, row.last, row.firstTime, row.lastTime);
+        stretch(row.rows, row.firstTime + u",000"_s, row.lastTime + u",000"_s);
         EXPECT_EQ(starts(), row.after) << row.name;
         EXPECT_TRUE(document.fileChanged()) << row.name;
     }
@@ -118,7 +95,7 @@ TEST_F(StretchTest, DigitsBehindTheThirdAreCut)
     };
     for (const auto &row : rows) {
         fill({u"00:00:00,000|00:00:00,000"_s, row.middle + u"|00:00:00,000"_s, row.last});
-        stretch(1, 3, u"00:00:00,000"_s, row.newLast);
+        stretch({1, 3}, u"00:00:00,000"_s, row.newLast);
         EXPECT_EQ(grid.text(2, StartColumn), row.after) << row.middle.toStdString();
         EXPECT_EQ(grid.text(3, StartColumn), row.newLast) << row.middle.toStdString();
     }
@@ -132,49 +109,37 @@ TEST_F(StretchTest, EveryMillisecondStandsInItsPlace)
         lines.append(start + u'|' + start);
     }
     fill(lines);
-    stretch(1, 2001, u"00:00:00,000"_s, timeOf(3571 * 2000.0));
+    stretch({1, 2001}, u"00:00:00,000"_s, timeOf(3571 * 2000.0));
     EXPECT_EQ(cells(), lines);
 }
 
 TEST_F(StretchTest, WhatCannotBeStretchedChangesNothing)
 {
     const QString noRange = u"The first and the last line of the range must lie in 1 to 3."_s;
+    const QString noLength =
+        u"Line %1 and line %2 start at the same time: there is no length to stretch."_s;
+    const QString tooEarly = u"Line 2 would start before the first time, 00:00:10,000."_s;
     const struct
     {
         QList<int> before;
-        int first, last;
+        RowRange rows;
         QString lastTime, message;
     } rows[] = {
-        {{1, 2, 3},
-         2,
-         2,
-         u"00:00:50,000"_s,
-         u"Line 2 and line 2 start at the same time: there is no length to stretch."_s},
-        {{1, 2, 1},
-         1,
-         3,
-         u"00:00:50,000"_s,
-         u"Line 1 and line 3 start at the same time: there is no length to stretch."_s},
-        {{5, 1, 9},
-         1,
-         3,
-         u"00:00:50,000"_s,
-         u"Line 2 would start before the first time, 00:00:10,000."_s},
-        {{1, 2, 3},
-         1,
-         3,
-         u"00:00:05,000"_s,
-         u"Line 2 would start before the first time, 00:00:10,000."_s},
-        {{1, 2, 3}, 0, 3, u"00:00:50,000"_s, noRange},
-        {{1, 2, 3}, 1, 4, u"00:00:50,000"_s, noRange},
-        {{1, 2, 3}, 4, 4, u"00:00:50,000"_s, noRange},
-        {{1, 2, 3}, 3, 9999, u"00:00:50,000"_s, noRange},
+        {{1, 2, 3}, {2, 2}, u"00:00:50,000"_s, noLength.arg(2).arg(2)},
+        {{1, 2, 1}, {1, 3}, u"00:00:50,000"_s, noLength.arg(1).arg(3)},
+        {{5, 1, 9}, {1, 3}, u"00:00:50,000"_s, tooEarly},
+        {{1, 2, 3}, {1, 3}, u"00:00:05,000"_s, tooEarly},
+        {{1, 2, 3}, {0, 3}, u"00:00:50,000"_s, noRange},
+        {{1, 2, 3}, {1, 4}, u"00:00:50,000"_s, noRange},
+        {{1, 2, 3}, {4, 4}, u"00:00:50,000"_s, noRange},
+        {{1, 2, 3}, {3, 9999}, u"00:00:50,000"_s, noRange},
     };
     for (const auto &row : rows) {
         fillSeconds(row.before);
         const QList<GridRow> before = grid.allRows();
-        stretch(row.first, row.last, u"00:00:10,000"_s, row.lastTime);
-        const std::string name = std::to_string(row.first) + " to " + std::to_string(row.last);
+        stretch(row.rows, u"00:00:10,000"_s, row.lastTime);
+        const std::string name =
+            std::to_string(row.rows.first) + " to " + std::to_string(row.rows.last);
         EXPECT_EQ(run.takeMessages(), QStringList{row.message + u"\nNothing was changed."_s})
             << name;
         expectUntouched(before, name);
@@ -187,7 +152,7 @@ TEST_F(StretchTest, TheViewIsPaintedOnceAndTheProgressIsZero)
     fillSeconds({1, 2, 3});
     run->control_window.ProgressBar1.setValue(40);
     const Repaints repaints(grid);
-    stretch(1, 3, u"00:00:10,000"_s, u"00:00:50,000"_s);
+    stretch({1, 3}, u"00:00:10,000"_s, u"00:00:50,000"_s);
     EXPECT_EQ(repaints.painted, 1);
     EXPECT_EQ(run->control_window.ProgressBar1.value(), 0);
 }

@@ -69,18 +69,6 @@ TEST_F(TimeChangeTest, ExecuteWritesTheCopyUnchecked)
     EXPECT_EQ(document.editor.rtfSubEditBasic.text(), u"00:00:11,000"_s);
 }
 
-TEST_F(TimeChangeTest, TheEndRowTakesTimesAndStaysTheEnd)
-{
-    grid.setCurrent(3, StartColumn);
-    times.rtfTimeStart.type(u"00:00:40,000"_s);
-    times.rtfTimeEnd.type(u"00:00:41,000"_s);
-    tool.Command19.click();
-    EXPECT_EQ(grid.text(3, StartColumn), u"00:00:40,000"_s);
-    EXPECT_EQ(grid.text(3, EndColumn), u"00:00:41,000"_s);
-    EXPECT_EQ(document.subtitleCount(), 2);
-    EXPECT_TRUE(document.fileChanged());
-}
-
 TEST_F(TimeChangeTest, TheHeaderIsNeverWritten)
 {
     grid.setCurrent(0, StartColumn);

@@ -235,24 +235,5 @@ TEST_F(UndoLaws, StepsSurviveASave)
     EXPECT_EQ(state(), before);
 }
 
-TEST_F(UndoLaws, AddedFileIsOneStepAndAnotherDocumentEndsAll)
-{
-    act(8);
-    EXPECT_EQ(document.subtitleCount(), 32);
-    const int format = document.curFormatId;
-    run->menu.mnuUndo.click();
-    EXPECT_EQ(document.subtitleCount(), 30);
-    EXPECT_EQ(run->formats.combo3.selected() + 1, document.curFormatId);
-    EXPECT_NE(document.curFormatId, format);
-    EXPECT_TRUE(run->fonts.Command42.isEnabled()); // what the format can hold is shown too
-    EXPECT_FALSE(run->menu.mnuUndo.isEnabled());
-    run->menu.mnuRedo.click();
-    EXPECT_EQ(document.subtitleCount(), 32);
-    run.doors.messages.answer(Answer::Yes);
-    run->menu.mnuNewFile.click();
-    EXPECT_FALSE(run->menu.mnuUndo.isEnabled());
-    EXPECT_FALSE(run->menu.mnuRedo.isEnabled());
-}
-
 } // namespace
 } // namespace kavro::test
