@@ -133,23 +133,6 @@ TEST_F(SplitOutputTest, APartWithoutSubtitlesIsNoFault)
     EXPECT_EQ(run.takeMessages(), QStringList());
 }
 
-TEST_F(SplitOutputTest, AnEmptyListShowsNothing)
-{
-    setTwoParts();
-    split.command28.click();
-    split.command28.click();
-    setParts({});
-    split.command28.click();
-    split.command29[1].click();
-    split.command29[0].click();
-    EXPECT_EQ(split.Label7.caption(), QString());
-    EXPECT_EQ(run->partition.grid.row(), 1);
-    split.command28.click();
-    split.command5.click();
-    EXPECT_EQ(run.takeMessages(), QStringList());
-    EXPECT_EQ(files(), u"film.srt"_s);
-}
-
 TEST_F(SplitOutputTest, ALostPreviewIsTold)
 {
     setTwoParts();

@@ -152,18 +152,6 @@ TEST_F(ClipboardTest, TheCalculatorTakesWhatItsPageShows)
     }
 }
 
-TEST_F(ClipboardTest, ClipAddsTheEditBoxAtTheEnd)
-{
-    panel.List1.setItems({u"old"_s});
-    document.editor.rtfSubEditBasic.type(u"a > b"_s);
-    document.editor.Command47.click();
-    EXPECT_EQ(panel.List1.items(), (QStringList{u"old"_s, u"Editor.Text: 2>a > b"_s}));
-    EXPECT_EQ(panel.List1.selected(), 1);
-    EXPECT_EQ(tool.rtfClipBoard.text(), u"Editor.Text: 2>a > b"_s);
-    EXPECT_EQ(enabled(), "11111");
-    EXPECT_EQ(run->trace.lastActionCode, 503);
-}
-
 TEST_F(ClipboardTest, ChangeWritesTheFieldIntoTheItem)
 {
     panel.add(u"a"_s);

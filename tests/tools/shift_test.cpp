@@ -141,26 +141,19 @@ TEST_F(ShiftTest, ADocumentWithoutALineIsToldSo)
     expectUntouched(before, "1 to 3");
 }
 
-TEST_F(ShiftTest, LogsTheWholeDocument)
+TEST_F(ShiftTest, PaintsOnceAndLogsTheWholeDocument)
 {
     fillSeconds({1, 5, 9});
-    setRange(u"2"_s, u"2"_s);
+    setRange(u"1"_s, u"2"_s);
+    const Repaints repaints(grid);
     shift(u"00:00:00,500"_s, 0);
+    EXPECT_EQ(repaints.painted, 1);
+    EXPECT_EQ(times.rtfTimeStart.text(), u"00:00:00,500"_s) << "the current row is shown anew";
     EXPECT_EQ(lastHistory(), u"Script Shifted: [Range: 00:00:01,000 to 00:00:09,000] [Duration: "
                              "00:00:00,500] [Direction: Beginning]"_s);
     EXPECT_EQ(run->trace.lastActionCode, 518);
     shift(u"x"_s, 1);
     EXPECT_TRUE(lastHistory().endsWith(u"[Duration: x] [Direction: End]"));
-}
-
-TEST_F(ShiftTest, TheCurrentRowIsShownAnewAndTheViewPaintedOnce)
-{
-    fillSeconds({1, 2, 3});
-    setRange(u"1"_s, u"3"_s);
-    const Repaints repaints(grid);
-    shift(u"00:00:10,000"_s, 1);
-    EXPECT_EQ(repaints.painted, 1);
-    EXPECT_EQ(times.rtfTimeStart.text(), u"00:00:11,000"_s);
 }
 
 TEST_F(ShiftTest, ThereAndBackIsWhereItWas)

@@ -216,24 +216,5 @@ TEST_F(UndoLaws, FindingsAreWalkedBackAndForward)
     EXPECT_EQ(content(), faulty);
 }
 
-TEST_F(UndoLaws, StepsSurviveASave)
-{
-    const std::string before = state();
-    grid.moveTo(7, FirstTextColumn);
-    act(2);
-    run->menu.mnuSave.click();
-    ASSERT_FALSE(document.fileChanged());
-    ASSERT_TRUE(run->menu.mnuUndo.isEnabled());
-    run->menu.mnuUndo.click();
-    EXPECT_TRUE(document.fileChanged());
-    run->menu.mnuSave.click();
-    run->menu.mnuRedo.click();
-    EXPECT_TRUE(document.fileChanged());
-    run->menu.mnuUndo.click();
-    EXPECT_FALSE(document.fileChanged());
-    grid.moveTo(1, FirstTextColumn);
-    EXPECT_EQ(state(), before);
-}
-
 } // namespace
 } // namespace kavro::test
