@@ -23,7 +23,7 @@ int firstTypicalFormat(LineReader &lines)
     while (!lines.atEnd()) {
         const QString line = lines.readLine().toString();
         const FormatId format = formatOfLine(line);
-        require(formatOfLine(line.toLower()) == format, "the case of letters doesn't count");
+        require(formatOfLine(lowerCase(line)) == format, "the case of letters doesn't count");
         require(formatOfLine(QChar(u' ') + line + QChar(u' ')) == format,
                 "blanks round a line don't count");
         if (format != UnknownFormat)

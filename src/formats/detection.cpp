@@ -64,7 +64,7 @@ constexpr std::array<Rule, formatCount> rules{{
 
 FormatId formatOfLine(QStringView line)
 {
-    const QString lower = trimmed(line).toString().toLower();
+    const QString lower = lowerCase(trimmed(line));
     const auto rule = std::ranges::find_if(
         rules, [&](const Rule &r) { return r.first.holds(lower) && r.second.holds(lower); });
     return rule == rules.end() ? UnknownFormat : rule->format;

@@ -77,10 +77,10 @@ QString LoadRun::subtitleBeside() const
     if (!mayHaveOne || !m_parts.settings.Check7[SettingsPage::LoadSubtitle].isOn())
         return {};
     const QString folder = folderOf(path).toString();
-    const QString base = nameOf(path).chopped(4).toString().toLower();
+    const QString base = lowerCase(nameOf(path).chopped(4));
     const QStringList names = filesIn(folder.isEmpty() ? u"."_s : folder, subtitlePatterns());
     const auto found = std::ranges::find_if(names, [&](const QString &name) {
-        return name.size() == base.size() + 4 && name.toLower().contains(base);
+        return name.size() == base.size() + 4 && lowerCase(name).contains(base);
     });
     return found == names.end() ? QString() : folder + *found;
 }

@@ -26,6 +26,7 @@ TEST(Detection, FindsTheFormatOfALine)
         {u"{00:00:01}{00:00:02}text", PowerDivX},
         {u"{12345678}{12345690}eight digits look like a time", PowerDivX},
         {u"{1234567}{1234569}seven do not", MicroDvd},
+        {u"{İ234567}{9}a capital with a longer small form", MicroDvd},
         {u"{0}{25}text", MicroDvd},
         {u"{y:i} no second brace pair", UnknownFormat},
         {u"     25,      50, \"text\"", Phoenix},

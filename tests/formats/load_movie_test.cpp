@@ -46,6 +46,7 @@ TEST(LoadMovie, FindsTheSubtitleBesideIt)
     };
     const Case cases[] = {
         {"of the same name", u"Film.avi"_s, {u"film.SRT"_s}, u"film.SRT"_s},
+        {"a capital with a longer small form", u"İz.avi"_s, {u"İz.srt"_s}, u"İz.srt"_s},
         {"the first by name wins", u"film.mpg"_s, {u"film.txt"_s, u"film.srt"_s}, u"film.srt"_s},
         {"a longer extension never", u"film.avi"_s, {u"film.sami"_s}, QString()},
         {"a longer name never", u"film.avi"_s, {u"film2.srt"_s, u"a film.srt"_s}, QString()},
