@@ -181,8 +181,11 @@ LoadResult LoadRun::readDocument()
     formatInfo(m_format)->implementation()->read(frame);
     if (!m_reader.status().ok())
         return fail(m_reader.status().text);
-    if (frame.isFull())
+    if (frame.isFull()) {
+        // More rows than were counted: the message tells as many lines as are known of.
+        m_count = std::max(m_count, frame.nextRow() + 1);
         return refuseForLimit();
+    }
     m_request.nextRow = frame.nextRow();
     replaceDocument(frame);
     if (m_request.showLog)

@@ -39,7 +39,7 @@ private:
     int formatOfFile();
     bool fileHasText();
     int formatOfLines(int believed);
-    /// False when the format has no reader.
+    /// False when a fault of the file ended the count.
     bool countSubtitles(int format);
 
     [[nodiscard]] bool isAboveLimit() const;

@@ -282,6 +282,7 @@ TEST(Load, KeepsTheLimitAgainstRowsThatNobodyCounted)
         numbers += u"x\n\n7\n"_s;
     FormatsFixture fixture;
     EXPECT_EQ(fixture.load(fixture.write(u"a.srt"_s, numbers)).kind, Kind::LimitReached);
+    EXPECT_TRUE(fixture.messageWindow.shown.last().text.contains(u"contains10001 lines"_s));
     EXPECT_EQ(fixture.editor.grdSubEdit.rows(), 2);
 }
 
