@@ -5,20 +5,16 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace kavro::test {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-struct LineCase
-{
-    QStringView line;
-    FormatId format;
-};
-
 TEST(Detection, FindsTheFormatOfALine)
 {
-    const LineCase cases[] = {
+    const std::pair<QStringView, FormatId> cases[] = {
         {u"{HEAD", DvdSubtitle},
         {u"  {head  ", DvdSubtitle},
         {u"{head}", UnknownFormat},
@@ -49,15 +45,7 @@ TEST(Detection, FindsTheFormatOfALine)
         {u"% Zero G 1.0", ZeroG},
         {u"", UnknownFormat},
         {u"[", UnknownFormat},
-    };
-    for (const LineCase &c : cases) {
-        EXPECT_EQ(formatOfLine(c.line), c.format) << c.line.toString().toStdString();
-    }
-}
-
-TEST(Detection, TakesTheFirstRuleThatHolds)
-{
-    const LineCase cases[] = {
+        // The first rule that holds decides.
         {u"# {1}{2}text", JacoSub},
         {u"#1, \"text\"", JacoSub},
         {u"{00:00:01}{00:00:02}a, \"b\"", PowerDivX},
@@ -65,9 +53,8 @@ TEST(Detection, TakesTheFirstRuleThatHolds)
         {u"0001, \"text\"", Phoenix},
         {u"00:00:01,5=he said, \"yes\"", Phoenix},
     };
-    for (const LineCase &c : cases) {
-        EXPECT_EQ(formatOfLine(c.line), c.format) << c.line.toString().toStdString();
-    }
+    for (const auto &[line, format] : cases)
+        EXPECT_EQ(formatOfLine(line), format) << qPrintable(line.toString());
 }
 
 TEST(Detection, LooksAtTheWholeFileOnlyWhenNothingIsKnown)

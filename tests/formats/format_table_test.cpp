@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace kavro::test {
 namespace {
 
@@ -38,12 +40,7 @@ TEST(FormatTable, NamesFilters)
 
 TEST(FormatTable, FindsTheFormatThatAPersonNames)
 {
-    struct Case
-    {
-        QStringView name;
-        int format;
-    };
-    const Case cases[] = {
+    const std::pair<QStringView, int> cases[] = {
         {u"9", SubRip},
         {u"subrip", SubRip},
         {u"MicroDVD", MicroDvd},
@@ -61,20 +58,14 @@ TEST(FormatTable, FindsTheFormatThatAPersonNames)
         {u".avi", 0},
         {u"SubViewer", 0},
     };
-    for (const Case &c : cases) {
-        EXPECT_EQ(formatByName(c.name).value_or(UnknownFormat), c.format)
-            << c.name.toString().toStdString();
-    }
+    for (const auto &[name, format] : cases)
+        EXPECT_EQ(formatByName(name).value_or(UnknownFormat), format)
+            << qPrintable(name.toString());
 }
 
 TEST(FormatTable, FindsTheOwnerOfAnExtension)
 {
-    struct Case
-    {
-        QStringView path;
-        FormatId format;
-    };
-    const Case cases[] = {
+    const std::pair<QStringView, FormatId> cases[] = {
         {u"/films/a.srt", SubRip},
         {u"/films/a.SRT", SubRip},
         {u"/films/a.b.rt", RealTime},
@@ -85,19 +76,13 @@ TEST(FormatTable, FindsTheOwnerOfAnExtension)
         {u"/films/a.srt.bak", UnknownFormat},
         {u"", UnknownFormat},
     };
-    for (const Case &c : cases) {
-        EXPECT_EQ(formatByExtension(c.path), c.format) << c.path.toString().toStdString();
-    }
+    for (const auto &[path, format] : cases)
+        EXPECT_EQ(formatByExtension(path), format) << qPrintable(path.toString());
 }
 
 TEST(FormatTable, ReplacesTheExtensionOfTheNameAlone)
 {
-    struct Case
-    {
-        QStringView path;
-        QStringView result;
-    };
-    const Case cases[] = {
+    const std::pair<QStringView, QStringView> cases[] = {
         {u"/films/a.sub", u"/films/a.srt"},
         {u"/films/a", u"/films/a.srt"},
         {u"/films.old/a", u"/films.old/a.srt"},
@@ -105,9 +90,8 @@ TEST(FormatTable, ReplacesTheExtensionOfTheNameAlone)
         {u"C:\\films.old\\a", u"C:\\films.old\\a.srt"},
         {u"a.", u"a.srt"},
     };
-    for (const Case &c : cases) {
-        EXPECT_EQ(withExtension(c.path.toString(), u".srt"), c.result);
-    }
+    for (const auto &[path, result] : cases)
+        EXPECT_EQ(withExtension(path.toString(), u".srt"), result);
 }
 
 } // namespace

@@ -126,23 +126,29 @@ struct FormatsFixture : DocumentFixture
 
 struct ReadCase
 {
+    int format;
     const char *name;
     QString text;
     const char *rows;
     int skipped = 0;
+    const char *font = nullptr; ///< the first row's entry; nullptr for any
 };
 
-/// Loads each text as that format and compares rows and skipped lines.
-inline void expectRows(int format, std::initializer_list<ReadCase> cases)
+/// Loads each text as its format and compares rows, skipped lines and font.
+inline void expectRows(std::initializer_list<ReadCase> cases)
 {
     for (const ReadCase &c : cases) {
-        SCOPED_TRACE(c.name);
+        SCOPED_TRACE(formatName(c.format).toStdString() + ": " + c.name);
         FormatsFixture fixture;
-        const LoadResult result = fixture.load(fixture.write(QStringLiteral("a"), c.text), format);
+        const QString path = fixture.write(QStringLiteral("a"), c.text);
+        const LoadResult result = fixture.load(path, c.format);
         EXPECT_EQ(result.kind, LoadResult::Kind::Loaded);
         EXPECT_EQ(fixture.rows(), c.rows);
         EXPECT_EQ(result.skippedLines, c.skipped);
         EXPECT_EQ(fixture.messageWindow.shown.size(), c.skipped > 0 ? 1 : 0);
+        if (c.font) {
+            EXPECT_EQ(fixture.document.fontEntry(1).toStdString(), c.font);
+        }
     }
 }
 

@@ -19,7 +19,9 @@ void fillDocument(FormatsFixture &fixture)
         {u"5"_s, u"12:34:57,000"_s, u"12:34:58,000"_s, u" a"_s, QString(), u" behind a gap"_s},
         {u"6"_s, u"12:35:00,000"_s, u"12:35:01,000"_s},
         {u"7"_s, u"1:2"_s, QString(), u" odd times"_s},
+        {u"8"_s, u" 12:36:00,000 "_s, u"12:36:90,000"_s, QString(), u" second "_s, u" third"_s},
     });
+    fixture.fonts.Combo9[0].setSelected(1);
     const QStringList styles{u"Regular"_s, u"Bold"_s, u"Italic"_s, u"Bold Italic"_s};
     for (int row = 1; row <= 4; ++row) {
         const QString entry = fixture.document.makeFontEntry({}, styles[row - 1], u"16"_s);

@@ -42,35 +42,49 @@ TEST(LoadMovie, FindsTheSubtitleBesideIt)
         const char *name;
         QString movie;
         QStringList files;
-        QString loaded; ///< empty for none
+        QString loaded = {}; ///< empty for none
+        Kind kind = Kind::MovieOnly;
+        bool looks = true; ///< the setting
+        bool plays = true;
     };
     const Case cases[] = {
-        {"of the same name", u"Film.avi"_s, {u"film.SRT"_s}, u"film.SRT"_s},
-        {"a capital with a longer small form", u"İz.avi"_s, {u"İz.srt"_s}, u"İz.srt"_s},
-        {"the first by name wins", u"film.mpg"_s, {u"film.txt"_s, u"film.srt"_s}, u"film.srt"_s},
-        {"a longer extension never", u"film.avi"_s, {u"film.sami"_s}, QString()},
-        {"a longer name never", u"film.avi"_s, {u"film2.srt"_s, u"a film.srt"_s}, QString()},
-        {"another kind of file", u"film.avi"_s, {u"film.doc"_s}, QString()},
-        {"a sound track brings none", u"film.wav"_s, {u"film.srt"_s}, QString()},
+        {"of the same name", u"Film.avi"_s, {u"film.SRT"_s}, u"film.SRT"_s, Kind::Loaded},
+        {"a capital with a longer small form",
+         u"İz.avi"_s,
+         {u"İz.srt"_s},
+         u"İz.srt"_s,
+         Kind::Loaded},
+        {"the first by name wins",
+         u"film.mpg"_s,
+         {u"film.txt"_s, u"film.srt"_s},
+         u"film.srt"_s,
+         Kind::Loaded},
+        {"a longer extension never", u"film.avi"_s, {u"film.sami"_s}},
+        {"a longer name never", u"film.avi"_s, {u"film2.srt"_s, u"a film.srt"_s}},
+        {"another kind of file", u"film.avi"_s, {u"film.doc"_s}},
+        {"a sound track brings none", u"film.wav"_s, {u"film.srt"_s}},
+        {"the setting is off", u"film.avi"_s, {u"film.srt"_s}, {}, Kind::MovieOnly, false},
+        {"without a player",
+         u"film.avi"_s,
+         {u"film.srt"_s},
+         u"film.srt"_s,
+         Kind::Loaded,
+         true,
+         false},
+        {"without a player and alone", u"film.avi"_s, {}, {}, Kind::Failed, true, false},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         FormatsFixture fixture;
-        fixture.settings.Check7[SettingsPage::LoadSubtitle].setOn(true);
+        fixture.settings.Check7[SettingsPage::LoadSubtitle].setOn(c.looks);
+        fixture.host.plays = c.plays;
         for (const QString &file : c.files)
             fixture.write(u"films/"_s + file, subRip);
         const LoadResult result = fixture.load(fixture.path(u"films/"_s + c.movie), SubRip);
-        EXPECT_EQ(result.kind, c.loaded.isEmpty() ? Kind::MovieOnly : Kind::Loaded);
+        EXPECT_EQ(result.kind, c.kind);
         EXPECT_EQ(nameOf(fixture.request.path), c.loaded.isEmpty() ? c.movie : c.loaded);
         EXPECT_EQ(fixture.document.subtitleCount(), c.loaded.isEmpty() ? 0 : 1);
     }
-}
-
-TEST(LoadMovie, LooksForNoSubtitleWhenTheSettingIsOff)
-{
-    FormatsFixture fixture;
-    fixture.write(u"film.srt"_s, subRip);
-    EXPECT_EQ(fixture.load(fixture.path(u"film.avi"_s)).kind, Kind::MovieOnly);
 }
 
 TEST(LoadMovie, AsksBeforeItsSubtitleReplacesChanges)
@@ -82,17 +96,6 @@ TEST(LoadMovie, AsksBeforeItsSubtitleReplacesChanges)
     fixture.messageWindow.answer(Answer::Cancel);
     EXPECT_EQ(fixture.load(fixture.path(u"film.avi"_s)).kind, Kind::Cancelled);
     EXPECT_EQ(fixture.messageWindow.shown.size(), 1);
-}
-
-TEST(LoadMovie, LoadsTheSubtitleWithoutAPlayer)
-{
-    FormatsFixture fixture;
-    fixture.settings.Check7[SettingsPage::LoadSubtitle].setOn(true);
-    fixture.host.plays = false;
-    fixture.write(u"film.srt"_s, subRip);
-    EXPECT_EQ(fixture.load(fixture.path(u"film.avi"_s)).kind, Kind::Loaded);
-    EXPECT_EQ(fixture.load(fixture.path(u"other.avi"_s)).kind, Kind::Failed);
-    EXPECT_EQ(fixture.document.subtitleCount(), 1);
 }
 
 } // namespace

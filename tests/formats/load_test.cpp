@@ -22,42 +22,35 @@ TEST(Load, FindsTheFormat)
         QString text;
         int asked;
         int format;
-        const char *message;
+        const char *message = "";
+        bool linesDecide = false;
     };
     const Case cases[] = {
-        {"the extension settles it", u"a.srt"_s, u"\nprose\n"_s + subRip, 0, SubRip, ""},
-        {"the lines of a .txt", u"a.txt"_s, tmPlayer, 0, TmPlayer, ""},
-        {"the lines of a .sub", u"a.sub"_s, subViewer2, 0, SubViewer2, ""},
-        {"the lines of a foreign extension", u"a.xyz"_s, subRip, 0, SubRip, ""},
+        {"the extension settles it", u"a.srt"_s, u"\nprose\n"_s + subRip, 0, SubRip},
+        {"the lines of a .txt", u"a.txt"_s, tmPlayer, 0, TmPlayer},
+        {"the lines of a .sub", u"a.sub"_s, subViewer2, 0, SubViewer2},
+        {"the lines of a foreign extension", u"a.xyz"_s, subRip, 0, SubRip},
         {"a picked format stays with a blank first line", u"a.sub"_s, u"\n"_s + tmPlayer,
-         SubViewer2, SubViewer2, ""},
+         SubViewer2, SubViewer2},
         {"a picked format gives way to the first line", u"a.sub"_s, tmPlayer, SubViewer2, TmPlayer,
          "Wrong format.: Loading 'TMPlayer' instead of 'SubViewer 2.0' format."},
         {"a picked format that no other shares is taken as it is", u"a.srt"_s, tmPlayer, SubRip,
-         SubRip, ""},
+         SubRip},
         {"lines under an extension that owns none of them", u"a.srt"_s, tmPlayer, 0, TmPlayer,
          "Wrong format.: Loading 'TMPlayer' instead of 'SubRip' format."},
-        {"numbers without times are SubRip in the end", u"a.srt"_s, u"1\n"_s, 0, SubRip, ""},
+        {"lines that are told to decide", u"a.srt"_s, subViewer2, SubRip, SubViewer2, "", true},
+        {"numbers without times are SubRip in the end", u"a.srt"_s, u"1\n"_s, 0, SubRip},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
         FormatsFixture fixture;
-        const LoadResult result = fixture.load(fixture.write(c.file, c.text), c.asked);
-        EXPECT_EQ(result.kind, Kind::Loaded);
-        EXPECT_EQ(fixture.request.format, c.format);
+        LoadRequest request{
+            .path = fixture.write(c.file, c.text), .format = c.asked, .linesDecide = c.linesDecide};
+        EXPECT_EQ(fixture.loader.LoadSubFile(request).kind, Kind::Loaded);
+        EXPECT_EQ(request.format, c.format);
         EXPECT_EQ(fixture.document.curFormatId, c.format);
         EXPECT_EQ(fixture.takeMessages(), c.message);
     }
-}
-
-TEST(Load, LetsTheLinesDecideWhenToldSo)
-{
-    FormatsFixture fixture;
-    const QString path = fixture.write(u"a.srt"_s, subViewer2);
-    LoadRequest request{.path = path, .format = SubRip, .linesDecide = true};
-    EXPECT_EQ(fixture.loader.LoadSubFile(request).kind, Kind::Loaded);
-    EXPECT_EQ(request.format, SubViewer2);
-    EXPECT_EQ(fixture.takeMessages(), "");
 }
 
 TEST(Load, DetectsWithoutTouchingTheDocument)
@@ -264,26 +257,22 @@ TEST(Load, KeepsTheLimit)
     EXPECT_FALSE(fixture.document.editorBlocked);
 }
 
-// A lone start becomes a row, so half a subtitle counts as one.
-TEST(Load, KeepsTheLimitWhereHalvesCount)
+TEST(Load, KeepsTheLimitWhereTheCountIsNoWholeOne)
 {
+    const QString whole = u"<SYNC START=1>\n<P>a\n<SYNC START=2>\n<P>\n"_s.repeated(9999);
+    const QString times = u"00:00:01,000 --> 00:00:02,000\n\n"_s;
+    const std::pair<int, QString> cases[] = {
+        {Sami, whole + u"<SYNC START=3>\n"_s},           // a lone start becomes a row
+        {SubRip, times + u"x\n\n7\n"_s.repeated(10000)}, // rows that nobody counted
+    };
+    for (const auto &[format, text] : cases) {
+        FormatsFixture fixture;
+        EXPECT_EQ(fixture.load(fixture.write(u"a"_s, text), format).kind, Kind::LimitReached);
+        EXPECT_EQ(fixture.document.subtitleCount(), 0);
+        EXPECT_TRUE(fixture.messageWindow.shown.last().text.contains(u"contains10001 lines"_s));
+    }
     FormatsFixture fixture;
-    const QString full = u"<SYNC START=1>\n<P>a\n<SYNC START=2>\n<P>\n"_s.repeated(9999);
-    EXPECT_EQ(fixture.load(fixture.write(u"full.smi"_s, full), Sami).kind, Kind::Loaded);
-    EXPECT_EQ(fixture.document.subtitleCount(), 9999);
-    const QString half = full + u"<SYNC START=3>\n"_s;
-    EXPECT_EQ(fixture.load(fixture.write(u"half.smi"_s, half), Sami).kind, Kind::LimitReached);
-}
-
-TEST(Load, KeepsTheLimitAgainstRowsThatNobodyCounted)
-{
-    QString numbers = u"00:00:01,000 --> 00:00:02,000\n\n"_s;
-    for (int i = 0; i < 10000; ++i)
-        numbers += u"x\n\n7\n"_s;
-    FormatsFixture fixture;
-    EXPECT_EQ(fixture.load(fixture.write(u"a.srt"_s, numbers)).kind, Kind::LimitReached);
-    EXPECT_TRUE(fixture.messageWindow.shown.last().text.contains(u"contains10001 lines"_s));
-    EXPECT_EQ(fixture.editor.grdSubEdit.rows(), 2);
+    EXPECT_EQ(fixture.load(fixture.write(u"a"_s, whole), Sami).kind, Kind::Loaded);
 }
 
 TEST(Load, AsksOnAboutBadLinesUntilTheAnswerIsNo)

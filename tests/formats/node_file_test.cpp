@@ -62,58 +62,42 @@ TEST(NodeFile, KeepsTheNodesOfADocument)
     EXPECT_EQ(fixture.document.curNode, 1);
 }
 
-TEST(NodeFile, FitsTheNodesToTheRows)
+TEST(NodeFile, FitsTheRowsOrGivesOneNode)
 {
-    struct Case
-    {
-        const char *name;
-        QString lines;
-        const char *nodes;
-    };
-    const Case cases[] = {
-        {"behind the last row", u"3\r\n1,2:a0\r\n3,40:b1\r\n41,50:c0\r\n"_s, "1-2 a 0, 3-6 b 1"},
-        {"short of the last row", u"2\r\n1,2:a0\r\n3,4:b0\r\n"_s, "1-2 a 0, 3-6 b 0"},
-        {"with a gap", u"2\r\n2,2:a0\r\n5,6:b0\r\n"_s, "1-4 a 0, 5-6 b 0"},
-        {"a node without rows", u"2\r\n1,0:a0\r\n1,6:b0\r\n"_s, "1-6 b 0"},
-        {"a name that is empty", u"1\r\n1,6:1\r\n"_s, "1-6  1"},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
-        NodeFixture fixture;
-        fixture.loadWith(head + c.lines + u"</Data>\r\n"_s);
-        EXPECT_EQ(fixture.nodes(), c.nodes);
-    }
-}
-
-TEST(NodeFile, ThatIsNoneGivesOneNode)
-{
-    struct Case
+    const char *const one = "1-6 a 0";
+    const struct
     {
         const char *name;
         QString text;
+        const char *nodes;
         const char *message = "";
-    };
-    const Case cases[] = {
+    } cases[] = {
+        {"behind the last row", head + u"3\r\n1,2:a0\r\n3,40:b1\r\n41,50:c0\r\n"_s,
+         "1-2 a 0, 3-6 b 1"},
+        {"short of the last row", head + u"2\r\n1,2:a0\r\n3,4:b0\r\n"_s, "1-2 a 0, 3-6 b 0"},
+        {"with a gap", head + u"2\r\n2,2:a0\r\n5,6:b0\r\n"_s, "1-4 a 0, 5-6 b 0"},
+        {"a node without rows", head + u"2\r\n1,0:a0\r\n1,6:b0\r\n"_s, "1-6 b 0"},
+        {"a name that is empty", head + u"1\r\n1,6:1\r\n"_s, "1-6  1"},
         {"another path",
-         u"4.00\r\n<File>\r\n/other/a.srt\r\n</File>\r\n<Data>\r\n1\r\n1,3:x0\r\n"_s},
-        {"another version", u"3.00\r\n<File>\r\n%1\r\n</File>\r\n<Data>\r\n1\r\n1,3:x0\r\n"_s,
+         u"4.00\r\n<File>\r\n/other/a.srt\r\n</File>\r\n<Data>\r\n1\r\n1,3:x0\r\n"_s, one},
+        {"another version", QString(head).replace(u"4.00"_s, u"3.00"_s) + u"1\r\n1,3:x0\r\n"_s, one,
          "Version Mismatch: History file does not match current version./History data not "
          "loaded."},
-        {"empty", QString()},
-        {"binary", QString(QChar(u'\0'))},
-        {"cut in the nodes", head + u"2\r\n1,3:x0\r\n"_s},
-        {"cut behind the head", head},
-        {"out of order", head + u"2\r\n4,6:x0\r\n1,3:y0\r\n"_s},
-        {"no numbers", head + u"1\r\na,b:x0\r\n"_s},
-        {"no marks", head + u"1\r\n1 3 x\r\n"_s},
-        {"a huge count", head + u"99999999\r\n1,3:x0\r\n"_s},
-        {"a count below 0", head + u"-1\r\n1,3:x0\r\n"_s},
+        {"empty", QString(), one},
+        {"binary", QString(QChar(u'\0')), one},
+        {"cut in the nodes", head + u"2\r\n1,3:x0\r\n"_s, one},
+        {"cut behind the head", head, one},
+        {"out of order", head + u"2\r\n4,6:x0\r\n1,3:y0\r\n"_s, one},
+        {"no numbers", head + u"1\r\na,b:x0\r\n"_s, one},
+        {"no marks", head + u"1\r\n1 3 x\r\n"_s, one},
+        {"a huge count", head + u"99999999\r\n1,3:x0\r\n"_s, one},
+        {"a count below 0", head + u"-1\r\n1,3:x0\r\n"_s, one},
     };
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         SCOPED_TRACE(c.name);
         NodeFixture fixture;
         fixture.loadWith(c.text);
-        EXPECT_EQ(fixture.nodes(), "1-6 a 0");
+        EXPECT_EQ(fixture.nodes(), c.nodes);
         EXPECT_EQ(fixture.takeMessages(), c.message);
     }
 }

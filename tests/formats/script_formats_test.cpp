@@ -7,55 +7,61 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-TEST(SubStationAlpha, ReadsFieldsByPlace)
+TEST(ScriptFormats, ReadRows)
 {
-    const QString line = u"Dialogue: Marked=0,0:00:01.25,0:00:02.50,Default,,0000,0000,0000,,"_s;
-    expectRows(
-        SubStationAlpha,
-        {
-            {"a header, a comma in the text, and lines that are no dialogue",
-             u"[Script Info]\n[Events]\n"_s + line + u"a, b\\nc\n; no\n\n"_s + line + u"d\\Ne\n"_s,
-             "00:00:01,250 00:00:02,500| a, b| c\n00:00:01,250 00:00:02,500| d\\Ne"},
-            {"a layer in place of the word shifts the times",
-             u"Dialogue: 0,0:00:01.25,0:00:02.50,Default,,0,0,0,,a\n"_s,
-             "00:05:00,000 00:00:00,000| a"},
-            {"fewer commas", u"dialogue: Marked=0,0:00:01.25,0:00:02.50,a\n"_s,
-             "00:00:01,250 00:00:02,500| a"},
-        });
-}
-
-TEST(RealTime, ReadsTimesByPlaceAndTextByItsTag)
-{
-    const QString line = u"<Time begin=\"0:00:01.25\" end=\"0:00:02.50\" />"_s;
-    expectRows(RealTime,
-               {
-                   {"a header and the end",
-                    u"<Window\n>\n"_s + line + u"<clear/> a<br>b\n</B>\n</center>\n"_s,
-                    "00:00:01,250 00:00:02,500| a| b"},
-                   {"without the tag the text is what stands from character 9 on",
-                    line.toLower() + u"x\n"_s,
-                    "00:00:01,250 00:00:02,500| gin=\"0:00:01.25\" end=\"0:00:02.50\" />x"},
-               });
-}
-
-TEST(Sami, ReadsFourLinesASubtitle)
-{
-    expectRows(
-        Sami, {
-                  {"two subtitles and the end",
-                   u"<SAMI>\n<BODY>\n<SYNC START=1500>\n<P>a<br>b\n<SYNC START=2500>\n<P>&nbsp;\n"
-                   "<SYNC START=3000>\n<i><p>c\n<SYNC START=4000>\n<P>&nbsp;\n</Body>\n</SAMI>\n"_s,
-                   "00:00:01,500 00:00:02,500| a| b\n00:00:03,000 00:00:04,000| c"},
-                  {"a class in the tag leaves the text from character 3 on",
-                   u"<SYNC START=1500>\n<P Class=X>a\n<SYNC START=2500>\n<P>\n"_s,
-                   "00:00:01,500 00:00:02,500| Class=X>a"},
-                  {"the last character of a sync line is cut whatever it is",
-                   u"<SYNC START=1500\n<P>a\n<SYNC START=2500 >\n<P>\n"_s,
-                   "00:00:00,150 00:00:02,500| a"},
-                  {"cut behind the text", u"<SYNC START=1500>\n<P>a\n"_s, "00:00:01,500 | a", 1},
-                  {"cut behind the end", u"<SYNC START=1500>\n<P>a\n<SYNC START=2500>\n"_s,
-                   "00:00:01,500 00:00:02,500| a", 1},
-              });
+    const QString dialogue =
+        u"Dialogue: Marked=0,0:00:01.25,0:00:02.50,Default,,0000,0000,0000,,"_s;
+    const QString timeTag = u"<Time begin=\"0:00:01.25\" end=\"0:00:02.50\" />"_s;
+    expectRows({
+        {SubStationAlpha, "a header, a comma in the text, and lines that are no dialogue",
+         u"[Script Info]\n[Events]\n"_s + dialogue + u"a, b\\nc\n; no\n\n"_s + dialogue
+             + u"d\\Ne\n"_s,
+         "00:00:01,250 00:00:02,500| a, b| c\n00:00:01,250 00:00:02,500| d\\Ne"},
+        {SubStationAlpha, "a layer in place of the word shifts the times",
+         u"Dialogue: 0,0:00:01.25,0:00:02.50,Default,,0,0,0,,a\n"_s,
+         "00:05:00,000 00:00:00,000| a"},
+        {SubStationAlpha, "fewer commas", u"dialogue: Marked=0,0:00:01.25,0:00:02.50,a\n"_s,
+         "00:00:01,250 00:00:02,500| a"},
+        {RealTime, "a header and the end",
+         u"<Window\n>\n"_s + timeTag + u"<clear/> a<br>b\n</B>\n</center>\n"_s,
+         "00:00:01,250 00:00:02,500| a| b"},
+        {RealTime, "without the tag the text is what stands from character 9 on",
+         timeTag.toLower() + u"x\n"_s,
+         "00:00:01,250 00:00:02,500| gin=\"0:00:01.25\" end=\"0:00:02.50\" />x"},
+        {Sami, "two subtitles and the end",
+         u"<SAMI>\n<BODY>\n<SYNC START=1500>\n<P>a<br>b\n<SYNC START=2500>\n<P>&nbsp;\n"
+         "<SYNC START=3000>\n<i><p>c\n<SYNC START=4000>\n<P>&nbsp;\n</Body>\n</SAMI>\n"_s,
+         "00:00:01,500 00:00:02,500| a| b\n00:00:03,000 00:00:04,000| c"},
+        {Sami, "a class in the tag leaves the text from character 3 on",
+         u"<SYNC START=1500>\n<P Class=X>a\n<SYNC START=2500>\n<P>\n"_s,
+         "00:00:01,500 00:00:02,500| Class=X>a"},
+        {Sami, "the last character of a sync line is cut whatever it is",
+         u"<SYNC START=1500\n<P>a\n<SYNC START=2500 >\n<P>\n"_s, "00:00:00,150 00:00:02,500| a"},
+        {Sami, "cut behind the end", u"<SYNC START=1500>\n<P>a\n<SYNC START=2500>\n"_s,
+         "00:00:01,500 00:00:02,500| a", 1},
+        {JacoSub, "a directive without its sign ends the header",
+         u"#T100\nSHIFT 0\n0:00:01.25 0:00:02.50 {ntp} a\n"_s,
+         "00:00:00,000 00:00:00,000| HIFT 0\n00:00:01,250 00:00:02,500| a"},
+        {JacoSub, "a fourth line has no place and no style",
+         u"0:00:01.25 0:00:02.50 {NTP} a\\nb\\nc\\n\\Bd\n"_s, "00:00:01,250 00:00:02,500| a| b| c",
+         1},
+        {TurboTitler, "two subtitles, the tag in the text too",
+         u"0:00:01.25,0:00:02.50,NTP a|b,ntp c\n0:00:03.00,0:00:04.00,ntp d\n"_s,
+         "00:00:01,250 00:00:02,500| a| b,ntp c\n00:00:03,000 00:00:04,000| d"},
+        {TurboTitler, "without the tag the text is what stands from character 5 on",
+         u"0:00:01.25,0:00:02.50\n"_s, "00:00:01,250 00:00:02,500| :01.25,0:00:02.50"},
+        {ViPlay, "the first line is dropped whatever it says",
+         u"x\n00:00:01,255-00:00:02,500=a=b|c\n"_s, "00:00:01,255 00:00:02,500| a=b| c"},
+        {ViPlay, "without the sign all is text", u"x\n00:00:01,255-00:00:02,500\n"_s,
+         "00:00:01,255 00:00:02,500| 00:00:01,255-00:00:02,500"},
+        {ViPlay, "an empty line is a subtitle", u"x\n\n"_s, "00:00:00,000 00:00:00,000"},
+        {ZeroG, "two subtitles",
+         u"% Zero G 1.0\n\nE 1 0:00:01.25 0:00:02.50 Default NTP a\\nb\n"
+         "E 1 0:00:03.00 0:00:04.00 Default ntp c ntp d\n"_s,
+         "00:00:01,250 00:00:02,500| a| b\n00:00:03,000 00:00:04,000| c ntp d"},
+        {ZeroG, "two lines are dropped whatever they say",
+         u"E 1 0:00:01.25 0:00:02.50 Default NTP a\n"_s, ""},
+    });
 }
 
 TEST(Sami, TakesTheSizeOfTheLastHeaderLine)
@@ -74,12 +80,8 @@ TEST(Sami, TakesTheSizeOfTheLastHeaderLine)
         {u"P {FONT-SIZE: 29pt;}\n"_s, "Arial;Western;Regular;"},
     };
     for (const Case &c : cases) {
-        SCOPED_TRACE(c.header.toStdString());
-        FormatsFixture fixture;
-        fixture.load(
-            fixture.write(u"a"_s, c.header + u"<SYNC START=1>\n<P>a\n<SYNC START=2>\n<P>\n"_s),
-            Sami);
-        EXPECT_EQ(fixture.document.fontEntry(1).toStdString(), c.entry);
+        const QString text = c.header + u"<SYNC START=1>\n<P>a\n<SYNC START=2>\n<P>\n"_s;
+        expectRows({{Sami, c.entry, text, "00:00:00,001 00:00:00,002| a", 0, c.entry}});
     }
 }
 
@@ -115,54 +117,6 @@ TEST(JacoSub, ReadsMarksOfStyleLineByLine)
                   std::string("Verdana;Western;") + c.style + ";");
         EXPECT_EQ(fixture.document.curFontName, u"Verdana"_s);
     }
-}
-
-TEST(JacoSub, ReadsALineWithoutASignAsASubtitle)
-{
-    expectRows(JacoSub, {
-                            {"a directive without its sign ends the header",
-                             u"#T100\nSHIFT 0\n0:00:01.25 0:00:02.50 {ntp} a\n"_s,
-                             "00:00:00,000 00:00:00,000| HIFT 0\n00:00:01,250 00:00:02,500| a"},
-                            {"a fourth line has no place and no style",
-                             u"0:00:01.25 0:00:02.50 {NTP} a\\nb\\nc\\n\\Bd\n"_s,
-                             "00:00:01,250 00:00:02,500| a| b| c", 1},
-                        });
-}
-
-TEST(TurboTitler, ReadsLines)
-{
-    expectRows(TurboTitler,
-               {
-                   {"two subtitles, the tag in the text too",
-                    u"0:00:01.25,0:00:02.50,NTP a|b,ntp c\n0:00:03.00,0:00:04.00,ntp d\n"_s,
-                    "00:00:01,250 00:00:02,500| a| b,ntp c\n00:00:03,000 00:00:04,000| d"},
-                   {"without the tag the text is what stands from character 5 on",
-                    u"0:00:01.25,0:00:02.50\n"_s, "00:00:01,250 00:00:02,500| :01.25,0:00:02.50"},
-               });
-}
-
-TEST(ViPlay, ReadsWholeTimes)
-{
-    expectRows(ViPlay,
-               {
-                   {"the first line is dropped whatever it says",
-                    u"x\n00:00:01,255-00:00:02,500=a=b|c\n"_s, "00:00:01,255 00:00:02,500| a=b| c"},
-                   {"without the sign all is text", u"x\n00:00:01,255-00:00:02,500\n"_s,
-                    "00:00:01,255 00:00:02,500| 00:00:01,255-00:00:02,500"},
-                   {"an empty line is a subtitle", u"x\n\n"_s, "00:00:00,000 00:00:00,000"},
-               });
-}
-
-TEST(ZeroG, ReadsLinesBehindTwo)
-{
-    expectRows(ZeroG, {
-                          {"two subtitles",
-                           u"% Zero G 1.0\n\nE 1 0:00:01.25 0:00:02.50 Default NTP a\\nb\n"
-                           "E 1 0:00:03.00 0:00:04.00 Default ntp c ntp d\n"_s,
-                           "00:00:01,250 00:00:02,500| a| b\n00:00:03,000 00:00:04,000| c ntp d"},
-                          {"two lines are dropped whatever they say",
-                           u"E 1 0:00:01.25 0:00:02.50 Default NTP a\n"_s, ""},
-                      });
 }
 
 } // namespace

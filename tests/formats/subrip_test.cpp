@@ -7,59 +7,43 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-struct ReadCase
-{
-    const char *name;
-    QString text;
-    const char *rows;
-    int skipped = 0;
-};
-
 TEST(SubRip, ReadsRows)
 {
-    const ReadCase cases[] = {
-        {"plain, the numbers of the file don't count",
+    expectRows({
+        {SubRip, "plain, the numbers of the file don't count",
          u"7\n00:00:01,000 --> 00:00:02,500\nOne\n\n7\n00:00:03,000 --> 00:00:04,000\nTwo\n"
          "lines  \n"_s,
          "00:00:01,000 00:00:02,500| One\n00:00:03,000 00:00:04,000| Two| lines"},
-        {"leading blanks and lines, a number with zeros",
+        {SubRip, "leading blanks and lines, a number with zeros",
          u"\n\n  01\n   00:00:01,000 --> 00:00:02,000\n  One\n"_s,
          "00:00:01,000 00:00:02,000| One"},
-        {"a blank line inside a subtitle doesn't end it",
+        {SubRip, "a blank line inside a subtitle doesn't end it",
          u"1\n00:00:01,000 --> 00:00:02,000\nOne\n\nmore\n"_s,
          "00:00:01,000 00:00:02,000| One| more"},
-        {"a line of digits behind a blank line begins a row",
+        {SubRip, "a line of digits behind a blank line begins a row",
          u"1\n00:00:01,000 --> 00:00:02,000\nOne\n\n12 angry men\n"_s,
          "00:00:01,000 00:00:02,000| One\n "},
-        {"digits in the text without a blank line before",
+        {SubRip, "digits in the text without a blank line before",
          u"1\n00:00:01,000 --> 00:00:02,000\nOne\n2\n"_s, "00:00:01,000 00:00:02,000| One| 2"},
-        {"digits right behind the time line are text",
+        {SubRip, "digits right behind the time line are text",
          u"1\n00:00:01,000 --> 00:00:02,000\n\n1984\n"_s, "00:00:01,000 00:00:02,000| 1984"},
-        {"a number without times leaves them empty",
+        {SubRip, "a number without times leaves them empty",
          u"1\n\n2\n00:00:01,000 --> 00:00:02,000\nx\n"_s, " \n00:00:01,000 00:00:02,000| x"},
-        {"a time line without a number fills the row last begun",
+        {SubRip, "a time line without a number fills the row last begun",
          u"1\n00:00:01,000 --> 00:00:02,000\nOne\n\n00:00:05,000 --> 00:00:06,000\nTwo\n"_s,
          "00:00:05,000 00:00:06,000| Two"},
-        {"coordinates behind the end time cost its milliseconds",
+        {SubRip, "coordinates behind the end time cost its milliseconds",
          u"1\n00:00:01,500 --> 00:00:02,500 X1:40 X2:600 Y1:20 Y2:50\nx\n"_s,
          "00:00:01,500 00:00:02,000| x"},
-        {"other separators, two digits of milliseconds", u"1\n00.00.01.500 --> 00:00:02,12\nx\n"_s,
-         "00:00:01,500 00:00:02,000| x"},
-        {"letters for digits, an arrow at the line's start",
+        {SubRip, "other separators, two digits of milliseconds",
+         u"1\n00.00.01.500 --> 00:00:02,12\nx\n"_s, "00:00:01,500 00:00:02,000| x"},
+        {SubRip, "letters for digits, an arrow at the line's start",
          u"1\nab:cd:ef,ghi --> 00:00:02,000\nx\n\n2\n--> 00:00:05,000\ny\n"_s,
          "00:00:00,000 00:00:02,000| x\n00:00:00,000 00:00:05,000| y"},
-        {"a fourth line has no place", u"1\n00:00:01,000 --> 00:00:02,000\na\nb\nc\nd\n"_s,
+        {SubRip, "a fourth line has no place", u"1\n00:00:01,000 --> 00:00:02,000\na\nb\nc\nd\n"_s,
          "00:00:01,000 00:00:02,000| a| b| c", 1},
-        {"zero is no number", u"0\n00:00:01,000 --> 00:00:02,000\nx\n"_s, ""},
-    };
-    for (const ReadCase &c : cases) {
-        SCOPED_TRACE(c.name);
-        FormatsFixture fixture;
-        const LoadResult result = fixture.load(fixture.write(u"a.srt"_s, c.text), SubRip);
-        EXPECT_EQ(result.kind, LoadResult::Kind::Loaded);
-        EXPECT_EQ(fixture.rows(), c.rows);
-        EXPECT_EQ(result.skippedLines, c.skipped);
-    }
+        {SubRip, "zero is no number", u"0\n00:00:01,000 --> 00:00:02,000\nx\n"_s, ""},
+    });
 }
 
 TEST(SubRip, PutsTextAheadOfTheFirstNumberIntoTheHeader)
@@ -78,33 +62,28 @@ TEST(SubRip, PutsTextAheadOfTheFirstNumberIntoTheHeader)
 
 TEST(SubRip, CutsMarksBlindlyAndKeepsTheStyle)
 {
-    struct Case
+    const struct
     {
         QString line;
-        const char *cell;
-        const char *style;
-    };
-    const Case cases[] = {
-        {u"plain"_s, " plain", "Regular"},
-        {u"<b>x</b>"_s, " x", "Bold"},
-        {u"<i>x</i>"_s, " x", "Italic"},
-        {u"<i><b>x</b></i>"_s, " x", "Italic"},
-        {u"<b><i>x</i></b>"_s, " x", "Italic"},
-        {u"a <i>word</i> here"_s, "i>word</i>", "Italic"},
+        std::string cell;
+        std::string style;
+    } cases[] = {
+        {u"plain"_s, "| plain", "Regular"},
+        {u"<b>x</b>"_s, "| x", "Bold"},
+        {u"<i>x</i>"_s, "| x", "Italic"},
+        {u"<i><b>x</b></i>"_s, "| x", "Italic"},
+        {u"<b><i>x</i></b>"_s, "| x", "Italic"},
+        {u"a <i>word</i> here"_s, "| i>word</i>", "Italic"},
         {u"a<i>"_s, "", "Italic"},
-        {u"<B>x</B>"_s, " <B>x</B>", "Regular"},
-        {u"<u>x</u>"_s, " <u>x</u>", "Regular"},
+        {u"<B>x</B>"_s, "| <B>x</B>", "Regular"},
+        {u"<u>x</u>"_s, "| <u>x</u>", "Regular"},
         {u"<b></b>"_s, "", "Bold"},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.line.toStdString());
-        FormatsFixture fixture;
-        fixture.load(
-            fixture.write(u"a.srt"_s, u"1\n00:00:01,000 --> 00:00:02,000\n"_s + c.line + u"\n"_s));
-        const std::string cell = c.line.startsWith(u"a <i>"_s) ? std::string(" ") + c.cell : c.cell;
-        EXPECT_EQ(fixture.cell(1, FirstTextColumn).toStdString(), cell);
-        EXPECT_EQ(fixture.document.fontEntry(1).toStdString(),
-                  std::string("Arial;Western;") + c.style + ";16");
+    for (const auto &c : cases) {
+        const QString text = u"1\n00:00:01,000 --> 00:00:02,000\n"_s + c.line;
+        const std::string rows = "00:00:01,000 00:00:02,000" + c.cell;
+        const std::string font = "Arial;Western;" + c.style + ";16";
+        expectRows({{SubRip, qPrintable(c.line), text, rows.c_str(), 0, font.c_str()}});
     }
 }
 
@@ -118,26 +97,6 @@ TEST(SubRip, TakesTheStyleOfTheLastLineThatHasAPlace)
     EXPECT_EQ(fixture.editor.lstFont.items(),
               (QStringList{QString(), u"Arial;Western;Italic;16"_s, u"Arial;Western;Regular;16"_s,
                            u"Arial;Western;Bold;16"_s}));
-}
-
-TEST(SubRip, WritesStylesAndTheLinesThatAreThere)
-{
-    FormatsFixture fixture;
-    fixture.setRows({
-        {u"1"_s, u"00:00:01,234"_s, u" 00:00:02,000 "_s, u" one"_s, u" two"_s},
-        {u"2"_s, u"00:00:03,000"_s, u"00:00:04,000"_s, u" bold "_s},
-        {u"3"_s, u"00:00:05,000"_s, u"00:00:06,000"_s, u" both"_s, QString(), u" lost"_s},
-        {u"4"_s, u"00:00:07,000"_s, u"00:00:08,000"_s, QString(), u" second"_s, u" third"_s},
-        {u"5"_s, u"1:2"_s, u"00:00:90,000"_s},
-    });
-    fixture.editor.lstFont.setItem(2, u"Arial;Western;Bold;16"_s);
-    fixture.editor.lstFont.setItem(3, u"Arial;Western;Bold Italic;16"_s);
-    EXPECT_EQ(fixture.written(SubRip),
-              crlf("1\n00:00:01,234 --> 00:00:02,000\none\ntwo\n\n"
-                   "2\n00:00:03,000 --> 00:00:04,000\n<b>bold</b>\n\n"
-                   "3\n00:00:05,000 --> 00:00:06,000\n<i><b>both</b></i>\n\n"
-                   "4\n00:00:07,000 --> 00:00:08,000\nsecond\nthird\n\n"
-                   "5\n01:00:00,001 --> 00:00:90,000\n\n"));
 }
 
 } // namespace
