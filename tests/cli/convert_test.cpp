@@ -2,6 +2,8 @@
 
 #include <QFileInfo>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace kavro::test {
@@ -36,34 +38,22 @@ TEST_F(Convert, WritesTheOtherFormatAndNothingElse)
     EXPECT_EQ(filesIn().size(), before.size() + 1);
 }
 
-struct Naming
-{
-    const char *name;
-    QString options;
-    QString file;
-};
-
-class ConvertNaming : public Convert, public testing::WithParamInterface<Naming>
-{};
-
-TEST_P(ConvertNaming, LeadsTo)
+TEST_F(Convert, NamesItsOutput)
 {
     QDir().mkdir(u"dir.d"_s);
-    EXPECT_EQ(convert(u"film.srt "_s + GetParam().options).status, 0);
-    EXPECT_TRUE(QFileInfo(GetParam().file).isFile());
+    const std::pair<QString, QString> namings[] = {
+        {u"--to 12 -o a.b.srt"_s, u"a.b.sub"_s},
+        {u"--to 12 -o dir.d/a"_s, u"dir.d/a.sub"_s}, // the folder's point is none
+        {u"--to tmplayer -o a"_s, u"a.txt"_s},
+        {u"--to .srt -o a"_s, u"a.srt"_s},
+        {u"--to 11 --out-dir dir.d"_s, u"dir.d/film.sub"_s},
+        {u"--to 11 --out-dir new/deep"_s, u"new/deep/film.sub"_s},
+    };
+    for (const auto &[options, file] : namings) {
+        EXPECT_EQ(convert(u"film.srt "_s + options).status, 0);
+        EXPECT_TRUE(QFileInfo(file).isFile()) << qPrintable(file);
+    }
 }
-
-const Naming namings[] = {
-    {"extensionIsReplaced", u"--to 12 -o a.b.srt"_s, u"a.b.sub"_s},
-    {"pointOfTheFolderIsNone", u"--to 12 -o dir.d/a"_s, u"dir.d/a.sub"_s},
-    {"formatByName", u"--to tmplayer -o a"_s, u"a.txt"_s},
-    {"formatByExtension", u"--to .srt -o a"_s, u"a.srt"_s},
-    {"folder", u"--to 11 --out-dir dir.d"_s, u"dir.d/film.sub"_s},
-    {"folderIsMade", u"--to 11 --out-dir new/deep"_s, u"new/deep/film.sub"_s},
-};
-
-INSTANTIATE_TEST_SUITE_P(Cases, ConvertNaming, testing::ValuesIn(namings),
-                         [](const auto &one) { return one.param.name; });
 
 TEST_F(Convert, LeavesAFileThatIsThereAlone)
 {
@@ -146,10 +136,13 @@ TEST_F(Convert, ASkippedLineIsToldAndTheRestWritten)
 TEST_F(Convert, RowsThatCanNotBeWrittenAreTold)
 {
     write(u"late.srt"_s, "1\n00:00:01,000 --> 00:00:02,000\none\n\n"
-                         "2\n00:00:03,000 --> never ended\ntwo\n\n");
-    const CliRun short_ = convert(u"late.srt --to 9 -o out"_s);
-    EXPECT_EQ(short_.out, "");
-    EXPECT_EQ(short_.status, read(u"out.srt"_s).find("two") == std::string::npos ? 1 : 0);
+                         "2\n00:00:03,000 --> 99:59:59,999\ntwo\n\n");
+    EXPECT_EQ(convert(u"late.srt --to 13 -o out"_s),
+              (CliRun{.status = 1,
+                      .out = {},
+                      .err = "late.srt: Warning: The file ends before row 2, which ends at "
+                             "'99:59:59,999'.\n  Rows that were not written: 1.\n"}));
+    EXPECT_EQ(read(u"out.txt"_s), "00:00:01,0=one\n00:00:02,0=\n");
 }
 
 TEST_F(Convert, EncodingsGoInAndOut)

@@ -165,25 +165,6 @@ TEST(Write, CutsTheDocumentIntoParts)
     EXPECT_EQ(fixture.document.savedPath, QString());
 }
 
-TEST(Write, EndsTheRunAtAPartThatIsKept)
-{
-    FormatsFixture fixture;
-    fixture.setRows(seconds(4));
-    fixture.document.subFileName = fixture.path(u"film.sub"_s);
-    fixture.partition.grid.setAllRows({{},
-                                       {u"1"_s, u"one"_s, u"00:00:03,000"_s},
-                                       {u"2"_s, u"two"_s, u"00:01:00,000"_s},
-                                       {u"3"_s, u"three"_s, u"00:01:00,000"_s},
-                                       {}});
-    fixture.write(u"two.txt"_s, u"old"_s);
-    const WriteResult result =
-        fixture.writer.CreateSubFile({.partition = true, .format = TmPlayer, .lastRow = 4});
-    EXPECT_EQ(result.kind, Kind::Cancelled);
-    EXPECT_EQ(result.files, QStringList{fixture.path(u"one.txt"_s)});
-    EXPECT_EQ(FormatsFixture::read(fixture.path(u"two.txt"_s)), "old");
-    EXPECT_EQ(FormatsFixture::read(fixture.path(u"three.txt"_s)), "(none)");
-}
-
 TEST(Write, PutsPreviewsIntoTheTemporaryFolder)
 {
     FormatsFixture fixture;
@@ -193,20 +174,13 @@ TEST(Write, PutsPreviewsIntoTheTemporaryFolder)
     fixture.editor.grdSubEdit.setText(1, FirstTextColumn, u" Ж"_s);
     fixture.partition.grid.setAllRows(
         {{}, {u"1"_s, u"one"_s, u"00:00:03,000"_s}, {u"2"_s, u"two"_s, u"00:01:00,000"_s}, {}});
-    WriteRequest request{.preview = true, .partition = true, .format = TmPlayer, .lastRow = 3};
-    const WriteResult parts = fixture.writer.CreateSubFile(request);
+    const WriteResult parts = fixture.writer.CreateSubFile(
+        {.preview = true, .partition = true, .format = TmPlayer, .lastRow = 3});
     EXPECT_EQ(parts.files, (QStringList{fixture.folders.path(Folder::Temporary, u"Splitprv.001"),
                                         fixture.folders.path(Folder::Temporary, u"Splitprv.002")}));
     EXPECT_EQ(FormatsFixture::read(parts.files[0]), "00:00:01,0=Ж\r\n00:00:02,0=\r\n");
     EXPECT_EQ(fixture.document.subFileName, fixture.path(u"film.sub"_s));
     EXPECT_TRUE(fixture.messageWindow.shown[0].text.contains(u" calculating Preview file. "_s));
-    fixture.messageWindow.shown.clear();
-
-    request.partition = false;
-    const WriteResult whole = fixture.writer.CreateSubFile(request);
-    EXPECT_EQ(whole.files, QStringList{parts.files[0]});
-    EXPECT_EQ(whole.rowsWritten, 3);
-    EXPECT_EQ(fixture.takeMessages(), "");
 }
 
 TEST(Write, OffersUtf8ForWhatTheEncodingHasNot)
@@ -234,16 +208,6 @@ TEST(Write, ReplacesHalvesOfCharacters)
     fixture.editor.grdSubEdit.setText(1, FirstTextColumn, u" a"_s + QChar(0xD83D));
     EXPECT_EQ(fixture.written(TmPlayer), "00:00:01,0=a?\r\n00:00:02,0=\r\n");
     EXPECT_EQ(fixture.takeMessages(), "");
-}
-
-TEST(Write, KeepsTheEncodingAndItsMark)
-{
-    FormatsFixture fixture;
-    fixture.setRows(seconds(1));
-    fixture.document.encoding = {.name = "UTF-16LE", .bom = true};
-    EXPECT_TRUE(fixture.written(TmPlayer).starts_with(std::string("\xFF\xFE"
-                                                                  "0\0",
-                                                                  4)));
 }
 
 TEST(Write, FailsWithAMessage)
