@@ -40,7 +40,7 @@ OutputPlan OutputPlan::toFolder(const QStringList &inputs, const QString &folder
 {
     OutputPlan plan;
     for (const QString &input : inputs)
-        plan.add(input, folder + u'/' + nameOf(input).toString(), format);
+        plan.add(input, folder + u'/' + nameOf(absolutePath(input)).toString(), format);
     return plan;
 }
 

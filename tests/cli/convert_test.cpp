@@ -90,6 +90,13 @@ TEST_F(Convert, TwoInputsForOneFileWriteNothing)
     EXPECT_FALSE(QFileInfo::exists(u"x.sub"_s));
 }
 
+TEST_F(Convert, ABackslashIsALetterOfTheName)
+{
+    QFile::copy(u"film.srt"_s, u"a\\film.srt"_s);
+    EXPECT_EQ(convert(u"film.srt a\\film.srt --to 9 --out-dir out"_s).status, 0);
+    EXPECT_EQ(filesIn(u"out"_s), (QStringList{u"a\\film.srt"_s, u"film.srt"_s}));
+}
+
 TEST_F(Convert, TwoNamesThatALinkJoinsAreOneFile)
 {
     write(u"film.sub"_s, "old");
