@@ -28,6 +28,12 @@ QString trueFile(const QString &path)
 
 } // namespace
 
+bool mayNameFile(const QString &name)
+{
+    const QString last = name.section(u'/', -1);
+    return !last.isEmpty() && last != u"." && last != u"..";
+}
+
 OutputPlan OutputPlan::toFile(const QStringList &inputs, const QString &name, int format)
 {
     OutputPlan plan;

@@ -14,6 +14,9 @@ struct Output
     bool literal = false; ///< a device or a pipe, taken as it stands
 };
 
+/// False for what can only be a folder: a name that ends in "/", "." or "..".
+bool mayNameFile(const QString &name);
+
 /// Where the inputs of one call go.
 class OutputPlan
 {

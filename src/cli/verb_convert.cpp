@@ -58,7 +58,7 @@ ExitStatus ConvertVerb::execute(const QCommandLineParser &call, const Streams &s
         reader.fail(u"--to FORMAT is missing"_s);
     if (name.isEmpty() == common.folder.isEmpty())
         reader.fail(u"takes either -o OUT or --out-dir DIR"_s);
-    if (name.endsWith(u'/'))
+    if (!name.isEmpty() && !mayNameFile(name))
         reader.fail(u"-o names no file, for a folder use --out-dir"_s);
     if (!reader.fault().isEmpty())
         return wrongCall(streams, reader.fault());

@@ -116,7 +116,7 @@ ExitStatus DiagnoseVerb::execute(const QCommandLineParser &call, const Streams &
     const QString name = call.value(u"o"_s);
     if (inputs.size() != 1)
         reader.fail(inputs.isEmpty() ? u"INPUT is missing"_s : u"takes one INPUT"_s);
-    if (call.isSet(u"o"_s) && (name.isEmpty() || name.endsWith(u'/')))
+    if (call.isSet(u"o"_s) && !mayNameFile(name))
         reader.fail(u"-o names no file"_s);
     if (!reader.fault().isEmpty())
         return wrongCall(streams, reader.fault());

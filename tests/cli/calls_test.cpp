@@ -39,6 +39,8 @@ const WrongCall wrongCalls[] = {
      "kavro-cli convert: -o names no file, for a folder use --out-dir"},
     {"sharedExtension", u"convert;film.srt;--to;.sub;-o;x"_s,
      "kavro-cli convert: \".sub\" is no format or more than one, see kavro-cli formats"},
+    {"pointsAsFile", u"convert;film.srt;--to;12;-o;y/.."_s,
+     "kavro-cli convert: -o names no file, for a folder use --out-dir"},
     {"formatOutside", u"dump;film.srt;--from;17"_s,
      "kavro-cli dump: \"17\" is no format or more than one, see kavro-cli formats"},
     {"valueMissing", u"convert;film.srt;-o"_s, "kavro-cli convert: Missing value after '-o'."},
@@ -55,6 +57,7 @@ const WrongCall wrongCalls[] = {
     {"diagnoseIntoAFolder", u"diagnose;film.srt;-o;y/"_s, "kavro-cli diagnose: -o names no file"},
     {"noScript", u"drive;none.drive"_s, "kavro-cli drive: none.drive can't be read"},
     {"folderAsScript", u"drive;."_s, "kavro-cli drive: . can't be read"},
+    {"diagnoseIntoThisFolder", u"diagnose;film.srt;-o;."_s, "kavro-cli diagnose: -o names no file"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Cases, WrongCalls, testing::ValuesIn(wrongCalls),
