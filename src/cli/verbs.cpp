@@ -31,7 +31,8 @@ int wrongCall(const Streams &streams, const QString &fault)
     return static_cast<int>(ExitStatus::WrongCall);
 }
 
-/// Options that every verb takes may also stand ahead of it; they are moved behind it.
+/// Options that every verb takes may also stand ahead of it; they are moved behind it. What is left
+/// without a verb is an empty one.
 void moveOptionsBehindVerb(QStringList &arguments)
 {
     QStringList options;
@@ -43,9 +44,8 @@ void moveOptionsBehindVerb(QStringList &arguments)
         for (int i = 0; i < (withValue ? 2 : 1) && !arguments.isEmpty(); ++i)
             options.append(arguments.takeFirst());
     }
-    const qsizetype verb = arguments.isEmpty() ? 0 : 1;
-    for (qsizetype i = 0; i < options.size(); ++i)
-        arguments.insert(verb + i, options[i]);
+    const QString verb = arguments.isEmpty() ? QString() : arguments.takeFirst();
+    arguments = QStringList(verb) + options + arguments;
 }
 
 } // namespace
@@ -65,7 +65,7 @@ int runCommandLine(QStringList arguments, const Streams &streams)
 {
     const auto verbs = allVerbs();
     moveOptionsBehindVerb(arguments);
-    const QString name = arguments.value(0);
+    const QString name = arguments.constFirst();
     if (name.isEmpty())
         return wrongCall(streams, u"a verb is missing"_s);
     if (name == "--help"_L1 || name == "-h"_L1) {

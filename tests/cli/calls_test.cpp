@@ -25,6 +25,8 @@ TEST_P(WrongCalls, EndWithTwoInOneLine)
 
 const WrongCall wrongCalls[] = {
     {"noVerb", u""_s, "kavro-cli: a verb is missing, see kavro-cli --help"},
+    {"optionsAlone", u"--app-dir;x;--answer=no"_s,
+     "kavro-cli: a verb is missing, see kavro-cli --help"},
     {"verbOfLater", u"run;x.mcr"_s, "kavro-cli: no verb \"run\", see kavro-cli --help"},
     {"unknownOption", u"--fast"_s, "kavro-cli: no option \"--fast\", see kavro-cli --help"},
     {"optionOfNoVerb", u"formats;--to;9"_s, "kavro-cli formats: Unknown option 'to'."},
@@ -37,10 +39,10 @@ const WrongCall wrongCalls[] = {
      "kavro-cli convert: takes either -o OUT or --out-dir DIR"},
     {"folderAsFile", u"convert;film.srt;--to;12;-o;y/"_s,
      "kavro-cli convert: -o names no file, for a folder use --out-dir"},
-    {"sharedExtension", u"convert;film.srt;--to;.sub;-o;x"_s,
-     "kavro-cli convert: \".sub\" is no format or more than one, see kavro-cli formats"},
     {"pointsAsFile", u"convert;film.srt;--to;12;-o;y/.."_s,
      "kavro-cli convert: -o names no file, for a folder use --out-dir"},
+    {"sharedExtension", u"convert;film.srt;--to;.sub;-o;x"_s,
+     "kavro-cli convert: \".sub\" is no format or more than one, see kavro-cli formats"},
     {"formatOutside", u"dump;film.srt;--from;17"_s,
      "kavro-cli dump: \"17\" is no format or more than one, see kavro-cli formats"},
     {"valueMissing", u"convert;film.srt;-o"_s, "kavro-cli convert: Missing value after '-o'."},
@@ -55,9 +57,9 @@ const WrongCall wrongCalls[] = {
     {"unknownRepair", u"diagnose;film.srt;--repair;empty,all"_s,
      "kavro-cli diagnose: --repair takes overlapping, invalid, empty, not \"all\""},
     {"diagnoseIntoAFolder", u"diagnose;film.srt;-o;y/"_s, "kavro-cli diagnose: -o names no file"},
+    {"diagnoseIntoThisFolder", u"diagnose;film.srt;-o;."_s, "kavro-cli diagnose: -o names no file"},
     {"noScript", u"drive;none.drive"_s, "kavro-cli drive: none.drive can't be read"},
     {"folderAsScript", u"drive;."_s, "kavro-cli drive: . can't be read"},
-    {"diagnoseIntoThisFolder", u"diagnose;film.srt;-o;."_s, "kavro-cli diagnose: -o names no file"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Cases, WrongCalls, testing::ValuesIn(wrongCalls),
