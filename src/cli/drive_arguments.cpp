@@ -1,5 +1,8 @@
 #include "cli/drive_arguments.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace kavro {
 
 using namespace Qt::StringLiterals;
@@ -12,11 +15,24 @@ QStringView takeWord(QStringView &rest)
     return word;
 }
 
+bool isDigits(QStringView text)
+{
+    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
+    return !text.isEmpty() && std::ranges::all_of(text, isDigit);
+}
+
 std::optional<int> wholeNumber(QStringView text)
 {
-    bool isNumber = false;
-    const int number = text.trimmed().toInt(&isNumber);
-    return isNumber ? std::optional(number) : std::nullopt;
+    using Limits = std::numeric_limits<int>;
+    text = text.trimmed();
+    bool fits = false;
+    const int number = text.toInt(&fits);
+    if (fits)
+        return number;
+    const bool isNegative = text.startsWith(u'-');
+    if (!isDigits(text.sliced(isNegative || text.startsWith(u'+') ? 1 : 0)))
+        return std::nullopt;
+    return isNegative ? Limits::min() : Limits::max();
 }
 
 std::optional<double> decimalNumber(QStringView text)

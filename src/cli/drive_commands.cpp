@@ -55,9 +55,9 @@ Outcome queueFile(Driven &driven, QStringView rest)
     FileReply reply{.accepted = true, .path = {}, .filterIndex = -1, .mediaName = false};
     const qsizetype blank = rest.lastIndexOf(u' ');
     const QStringView last = rest.sliced(blank + 1);
-    const bool digits = std::ranges::all_of(last, [](QChar c) { return c >= u'0' && c <= u'9'; });
-    if (blank >= 0 && digits && !last.isEmpty()) {
-        reply.filterIndex = wholeNumber(last).value_or(std::numeric_limits<int>::max());
+    const std::optional<int> index = isDigits(last) ? wholeNumber(last) : std::nullopt;
+    if (blank >= 0 && index) {
+        reply.filterIndex = *index;
         rest = rest.first(blank);
     }
     if (rest == u"cancel")

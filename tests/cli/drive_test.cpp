@@ -96,7 +96,16 @@ TEST_F(Drive, AWrongLineEndsTheScriptWithTwo)
         EXPECT_EQ(
             drive("# comment\n\n" + line + "\r\ndump\n"),
             (CliRun{.status = 2, .out = {}, .err = "kavro-cli drive: line 3: " + fault + '\n'}))
-            << line.constData();
+            << line.first(std::min<qsizetype>(line.size(), 80)).toStdString();
+    }
+}
+
+TEST_F(Drive, WhatIsNotThereIsRefusedWhateverItsNumber)
+{
+    for (const char *number : {"-1", "16", "2147483648", "-99999999999999999999"}) {
+        EXPECT_EQ(drive(QByteArray("select combo3 ") + number + '\n'),
+                  (CliRun{.status = 0, .out = "{\"refused\": \"frmMain.combo3\"}\n", .err = {}}))
+            << number;
     }
 }
 
