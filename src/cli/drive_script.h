@@ -29,6 +29,7 @@ public:
 private:
     bool runNext();
     bool nextLine(QString &line);
+    void tellWrong(int number, const QString &fault);
 
     std::istream &m_input;
     Driven m_driven;

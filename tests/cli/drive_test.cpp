@@ -80,6 +80,8 @@ TEST_F(Drive, AWrongLineEndsTheScriptWithTwo)
         {"select combo3 first", "\"first\" is no number"},
         {"check optFrameRate(1) 2", "\"2\" is neither 0 nor 1"},
         {"cell grdSubEdit 1", "\"\" is no number"},
+        {"cell grdSubEdit 1e5 1", "\"1e5\" is no number"},
+        {QByteArray(1024 * 1024 + 1, ' '), "longer than 1 MiB"},
         {"slide Slider1 nan", "\"nan\" is no number"},
         {"tick timPlayer often", "\"often\" is no number"},
         {"answer maybe", "\"maybe\" is no answer, those are yes, no, ok, cancel"},
