@@ -22,6 +22,8 @@ class ObjectOutput
 public:
     explicit ObjectOutput(std::ostream &out) : m_out(out) {}
     void write(const JsonWriter &object);
+    /// Nothing that is written comes through any more.
+    [[nodiscard]] bool hasFailed() const { return m_out.fail(); }
 
 private:
     std::ostream &m_out;

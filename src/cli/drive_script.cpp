@@ -65,8 +65,8 @@ bool DriveScript::runNext()
     } else if (outcome.kind == Outcome::Kind::Wrong) {
         tellWrong(number, outcome.text);
     }
-    m_over =
-        m_over || m_wrong || outcome.kind == Outcome::Kind::Quit || m_driven.program.hasEnded();
+    m_over = m_over || m_wrong || outcome.kind == Outcome::Kind::Quit || m_driven.program.hasEnded()
+             || m_driven.ports.output.hasFailed();
     return !m_over;
 }
 

@@ -109,6 +109,16 @@ TEST_F(Process, DriveAnswersEachCommandAtOnce)
     EXPECT_EQ(filesIn(u"home"_s) + filesIn(u"tmp"_s), QStringList());
 }
 
+TEST_F(Process, AReaderThatGoesAwayEndsTheScriptAndLeavesNoTrace)
+{
+    // The history keeps the change in a work file, and far more is printed than a pipe holds.
+    write(u"endless.drive"_s, "load film.srt\ncell grdSubEdit 1 3\npress Command14\n"
+                                  + QByteArray("dump\n").repeated(1000) + "set\n");
+    process.start(u"/bin/sh"_s, {u"-c"_s, u"\"$0\" drive endless.drive | sed -n 3q"_s, m_program});
+    EXPECT_EQ(finish(), (CliRun{.status = 0, .out = {}, .err = {}}));
+    EXPECT_EQ(filesIn(u"tmp"_s), QStringList());
+}
+
 TEST_F(Process, AFullStandardOutputIsAFailure)
 {
     if (!QFileInfo::exists(u"/dev/full"_s))
