@@ -58,6 +58,7 @@ void Program::start(const QString &file)
         loadLastFiles();
     }
     control_window.quiet = false;
+    trace.RecordAction({}, 0); // nobody has acted yet
     if (file.isEmpty()) {
         splash.finish();
     } else {
@@ -175,8 +176,7 @@ void Program::fillFonts()
 void Program::loadNamedFile(const QString &file)
 {
     if (!file.isEmpty()) {
-        LoadRequest request{.path = QFileInfo(file).absoluteFilePath()};
-        loader.LoadSubFile(request);
+        fileCommands.dropFile(QFileInfo(file).absoluteFilePath());
     }
 }
 
@@ -188,6 +188,7 @@ void Program::bringBack(const KeptDocument &kept)
         }
     }
     loader.bringBack(kept);
+    diagnose.diagnoseWithoutRepairs();
 }
 
 void Program::showFirstTabs()
@@ -207,8 +208,7 @@ void Program::loadLastFiles()
     }
     const SettingsFiles::LastFiles last = settingsFiles.lastFiles();
     if (!last.subtitle.isEmpty()) {
-        LoadRequest request{.path = last.subtitle};
-        loader.LoadSubFile(request);
+        fileCommands.dropFile(last.subtitle);
     }
     if (!last.movie.isEmpty() && ports.player.open(last.movie)) {
         player.Combo1.setEnabled(true);

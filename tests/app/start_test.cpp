@@ -125,6 +125,35 @@ TEST(Start, LastFilesAreLoadedWhenTheSettingSaysSo)
     }
 }
 
+// As the load command does, and yet nobody has acted.
+TEST(Start, WhatItOpensIsScanned)
+{
+    for (const QString &way : {u"named"_s, u"setting file"_s, u"last"_s, u"brought back"_s}) {
+        SCOPED_TRACE(way.toStdString());
+        TestProgram run;
+        const QString film = run.write(u"film.srt"_s, u"1\n00:00:02,000 --> 00:00:01,000\na\n\n"_s);
+        const QString list = run.write(u"film.scd"_s, film + u'\n');
+        if (way == u"last"_s) {
+            run.writeApp(u"System/last.sdf"_s, film + u"\n\n"_s);
+            run.writeApp(u"System/Settings/set.sdf"_s, u"0\n1\n"_s);
+            run.start();
+        } else if (way == u"brought back"_s) {
+            run.start(film);
+            run->editor.Command14.click();
+            run->recovery.timRecovery.fire();
+            run->recovery.finishWriting();
+            run.restart();
+            run.doors.messages.answer(Answer::Yes);
+            run.start();
+        } else {
+            run.start(way == u"named"_s ? film : list);
+        }
+        EXPECT_EQ(run->document.subFileName, film);
+        EXPECT_EQ(run->document.errorCount, 1);
+        EXPECT_EQ(run->trace.lastActionCode, 0);
+    }
+}
+
 TEST(Start, InitialValues)
 {
     TestProgram run;
