@@ -51,8 +51,10 @@ Diagnose::Diagnose(Form &frmMain, const Parts &parts)
     connectSteps();
     QObject::connect(&Command27, &Button::clicked, &Command27, [this] { GoDiagnose(); });
     QObject::connect(&tvDiag, &TreeView::clicked, &tvDiag, [this](int node) { goToLine(node); });
-    QObject::connect(&m_parts.document, &SubtitleDocument::findingsGone, &tvDiag,
-                     [this] { showFindings(false); });
+    QObject::connect(&m_parts.document, &SubtitleDocument::findingsGone, &tvDiag, [this] {
+        m_silentLines.clear();
+        showFindings(false);
+    });
     showFindings(false);
 }
 
@@ -116,6 +118,7 @@ void Diagnose::scan(const DiagnoseSwitches &switches)
     scan.run();
     scan.tree().fill(tvDiag);
     m_remaining = scan.tree().remaining();
+    m_silentLines = scan.silentLines();
     document.RefreshCurrentRow();
     showFindings(true);
 }
@@ -139,12 +142,11 @@ void Diagnose::goToLine(int node)
 /// Behind the last finding comes the first one.
 void Diagnose::stepToFinding(int direction)
 {
-    const SubtitleDocument &document = m_parts.document;
-    Grid &grid = document.editor.grdSubEdit;
+    Grid &grid = m_parts.document.editor.grdSubEdit;
     const int rows = grid.rows();
     for (int step = 1; step <= rows; ++step) {
         const int row = (grid.row() + direction * step + rows) % rows;
-        if (row > 0 && !document.rowErrorText(row).isEmpty()) {
+        if (hasFinding(row)) {
             grid.setRow(row);
             grid.setTopRow(row);
             return;
@@ -152,22 +154,26 @@ void Diagnose::stepToFinding(int direction)
     }
 }
 
-bool Diagnose::hasFinding() const
+bool Diagnose::hasFinding(int row) const
 {
-    const SubtitleDocument &document = m_parts.document;
-    for (int row = 1; row < document.editor.grdSubEdit.rows(); ++row) {
-        if (!document.rowErrorText(row).isEmpty()) {
-            return true;
-        }
+    return row > 0
+           && (!m_parts.document.rowErrorText(row).isEmpty() || m_silentLines.contains(row));
+}
+
+bool Diagnose::hasFindings() const
+{
+    int row = m_parts.document.editor.grdSubEdit.rows() - 1;
+    while (row > 0 && !hasFinding(row)) {
+        --row;
     }
-    return false;
+    return row > 0;
 }
 
 void Diagnose::showFindings(bool scanned)
 {
     m_parts.status.StatusBar1.setPanel(findingsPanel,
                                        scanned ? findingsLeft(m_remaining) : QString());
-    const bool found = hasFinding();
+    const bool found = hasFindings();
     m_parts.menu.mnuNextFinding.setEnabled(found);
     m_parts.menu.mnuPreviousFinding.setEnabled(found);
 }

@@ -56,11 +56,13 @@ private:
     void scan(const DiagnoseSwitches &switches);
     void goToLine(int node);
     void stepToFinding(int direction);
-    [[nodiscard]] bool hasFinding() const;
+    [[nodiscard]] bool hasFinding(int row) const;
+    [[nodiscard]] bool hasFindings() const;
     void showFindings(bool scanned);
 
     Parts m_parts;
     int m_remaining = 0;
+    QList<int> m_silentLines; ///< of the last scan
 };
 
 } // namespace kavro

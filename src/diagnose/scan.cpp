@@ -67,6 +67,7 @@ void DiagnoseScan::beginRun()
     SubtitleDocument &document = m_parts.document;
     const QDateTime now = m_parts.clock.now();
     document.clearRowErrors();
+    m_silentLines.clear();
     document.errorCount = 0;
     const QString format = m_parts.status.StatusBar1.panel(2);
     m_tree.begin({.file = document.subFileName.isEmpty() ? u"None loaded"_s : document.subFileName,
@@ -249,8 +250,11 @@ void DiagnoseScan::tellTime(const TimeFinding &finding, const LineValues &line)
     } else {
         m_tree.addBareFinding(current().node, explanation);
     }
-    // Ahead of the first line there is none that could be repaired.
+    // Ahead of the first line there is none that could be repaired, or show the text.
     const bool repair = isOn(finding.repair) && row > 0;
+    if (row == 0) {
+        m_silentLines.append(line.row);
+    }
     document.setRowErrorText(row, repair ? QString() : explanation);
     m_tree.addSolution(ResultTree::Solution::OfTime, line.row,
                        findingText(repair ? finding.solved : finding.advice, line));
@@ -294,6 +298,7 @@ void DiagnoseScan::tellRepairedText(const TextFinding &finding, const LineValues
 void DiagnoseScan::tellSavedEmpty(const LineValues &line)
 {
     countFinding();
+    m_silentLines.append(line.row);
     m_tree.addFinding(current().node, line.row, SavedEmptyLine::explanation.toString());
     m_tree.addSolution(ResultTree::Solution::OfText, line.row,
                        findingText(SavedEmptyLine::advice, line));

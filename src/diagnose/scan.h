@@ -5,6 +5,7 @@
 #include "diagnose/result_tree.h"
 #include "diagnose/switches.h"
 
+#include <QList>
 #include <QString>
 
 #include <vector>
@@ -49,6 +50,8 @@ public:
 
     /// What the runs had to tell.
     [[nodiscard]] const ResultTree &tree() const { return m_tree; }
+    /// Lines with a finding of which no line of the document has the text.
+    [[nodiscard]] const QList<int> &silentLines() const { return m_silentLines; }
 
 private:
     /// A run at work, or one that waits for those behind it on the stack.
@@ -96,6 +99,7 @@ private:
     Grid &m_grid;
     LineFactsCache m_facts;
     ResultTree m_tree;
+    QList<int> m_silentLines;
     std::vector<Run> m_runs;
 };
 

@@ -287,6 +287,34 @@ TEST_F(DiagnoseTest, StepsGoRoundTheFindings)
     EXPECT_EQ(panel(), "");
 }
 
+TEST_F(DiagnoseTest, StepsReachLinesThatShowNoText)
+{
+    const struct
+    {
+        DiagnoseSwitch check;
+        QStringList rows;
+        const char *places;
+    } cases[] = {
+        {CheckEmpty, {u"1|2|{}"_s, u"1|2|a|b"_s, u"1|2|a"_s, u"1|2|a|b"_s}, "2,3 4,3 2,3 "},
+        {CheckOverlapping, {u"-1:59:59,000|2|a"_s, u"3|4|b"_s}, "1,3 1,3 1,3 "},
+    };
+    Button &next = fixture.run->menu.mnuNextFinding;
+    for (const auto &one : cases) {
+        fixture.switchOn({one.check});
+        fixture.fill(one.rows);
+        EXPECT_FALSE(next.isEnabled());
+        grid.setCurrent(1, 3);
+        fixture.go();
+        EXPECT_TRUE(next.isEnabled());
+        std::string places;
+        for (int step = 0; step < 3; ++step) {
+            next.click();
+            places += place() + ' ';
+        }
+        EXPECT_EQ(places, one.places);
+    }
+}
+
 TEST_F(DiagnoseTest, RunIsShownOnce)
 {
     fixture.switchAllOn();
