@@ -72,6 +72,9 @@ constexpr DefaultText texts[] = {
     {Common, 41, u"Language file error"},
     {Common, 42, u"Not found:"},
     {Common, 43, u"Matches:"},
+    {Common, 44, u"No findings"},
+    {Common, 45, u"1 finding remains"},
+    {Common, 46, u"%1 findings remain"},
 
     {User, 0, u"Please enter a Nickname before connecting."},
     {User, 1, u"Failed to load copy file."},

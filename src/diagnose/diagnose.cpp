@@ -5,10 +5,12 @@
 #include "core/document.h"
 #include "core/edit_history.h"
 #include "core/editor_page.h"
+#include "core/language.h"
 #include "core/main_menu.h"
 #include "core/status_panels.h"
 #include "core/text.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -25,14 +27,8 @@ constexpr std::array<int, DiagnoseSwitches::count> switchCodes{701, 703, 705, 70
 
 constexpr int findingsPanel = 4;
 
-QString findingsLeft(int count)
-{
-    switch (count) {
-    case 0: return u"No findings"_s;
-    case 1: return u"1 finding remains"_s;
-    default: return u"%1 findings remain"_s.arg(count);
-    }
-}
+/// The text of the common group that tells of no finding; behind it come those of one and of more.
+constexpr int noFindingsText = 44;
 
 } // namespace
 
@@ -169,10 +165,16 @@ bool Diagnose::hasFindings() const
     return row > 0;
 }
 
+QString Diagnose::findingsLeft() const
+{
+    QString text =
+        m_parts.language.text(LangGroup::Common, noFindingsText + std::min(m_remaining, 2));
+    return text.replace("%1"_L1, QString::number(m_remaining));
+}
+
 void Diagnose::showFindings(bool scanned)
 {
-    m_parts.status.StatusBar1.setPanel(findingsPanel,
-                                       scanned ? findingsLeft(m_remaining) : QString());
+    m_parts.status.StatusBar1.setPanel(findingsPanel, scanned ? findingsLeft() : QString());
     const bool found = hasFindings();
     m_parts.menu.mnuNextFinding.setEnabled(found);
     m_parts.menu.mnuPreviousFinding.setEnabled(found);

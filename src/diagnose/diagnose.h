@@ -58,6 +58,7 @@ private:
     void stepToFinding(int direction);
     [[nodiscard]] bool hasFinding(int row) const;
     [[nodiscard]] bool hasFindings() const;
+    [[nodiscard]] QString findingsLeft() const;
     void showFindings(bool scanned);
 
     Parts m_parts;
