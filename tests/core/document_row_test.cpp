@@ -37,6 +37,7 @@ TEST_F(CurrentRow, IsShownInThePanels)
     EXPECT_EQ(times.rtfTimeStart.text(), QString());
     EXPECT_EQ(document.scriptTime, -1);
     EXPECT_EQ(editor.Label24.caption(), u"00:01:00,25"_s); // nothing to show: it stays
+    EXPECT_TRUE(editor.cmdInvCalc.isVisible());
 }
 
 TEST_F(CurrentRow, ScriptTimeCountsHundredthsLessOne)
@@ -59,18 +60,20 @@ TEST_F(CurrentRow, ScriptTimeCountsHundredthsLessOne)
 
 TEST_F(CurrentRow, SwitchesTheRowCommands)
 {
-    fillRows(4); // rows 1 to 4, the end row is 5
     const struct
     {
+        int subtitles; ///< the end row is behind them
         std::initializer_list<int> steps;
         const char *enabled; ///< insert, delete, change
         bool node;
     } rows[] = {
-        {{2}, "+++", true},       {{4}, "+++", false}, // the last subtitle starts no node
-        {{2, 1}, "+++", false},   {{5}, "---", false},    {{5, 1}, "+-+", false},
-        {{5, 1, 3}, "+++", true}, {{2, 0}, "---", false}, {{2, 0, 1}, "+-+", false},
+        {4, {2}, "+++", true},       {4, {4}, "+++", false}, // the last subtitle starts no node
+        {4, {2, 1}, "+++", false},   {4, {5}, "---", false},    {4, {5, 1}, "+-+", false},
+        {4, {5, 1, 3}, "+++", true}, {4, {2, 0}, "---", false}, {4, {2, 0, 1}, "+-+", false},
+        {0, {1}, "---", false},
     };
     for (const auto &row : rows) {
+        fillRows(row.subtitles);
         grid.setCurrent(3, 1);
         std::string name;
         for (const int step : row.steps) {
@@ -86,47 +89,27 @@ TEST_F(CurrentRow, SwitchesTheRowCommands)
     }
 }
 
-TEST_F(CurrentRow, EmptyDocumentHasNoCommands)
-{
-    document.RefreshCurrentRow();
-    EXPECT_EQ(grid.row(), 1);
-    EXPECT_FALSE(editor.Command10.isEnabled());
-    EXPECT_FALSE(editor.Command11.isEnabled());
-    EXPECT_FALSE(editor.Command14.isEnabled());
-    EXPECT_EQ(editor.lblSubRowCount.caption(), u" 1/ 0"_s);
-    EXPECT_TRUE(editor.cmdInvCalc.isVisible());
-}
-
-TEST_F(CurrentRow, ColumnAndSettingSwitchTheCellTools)
-{
-    fillRows(3);
-    const struct
-    {
-        bool script;
-        int col;
-        bool editorShown, calculatorShown;
-    } rows[] = {
-        {false, 0, true, true}, {false, 2, true, true},  {false, 3, true, false},
-        {true, 2, true, true},  {true, 3, false, false}, {true, 5, false, false},
-    };
-    for (const auto &row : rows) {
-        settings.Check6[0].setOn(row.script);
-        grid.setCurrent(2, 1);
-        grid.setCol(row.col);
-        EXPECT_EQ(editor.rtfEdit.isVisible(), row.editorShown) << row.script << row.col;
-        EXPECT_EQ(editor.cmdInvCalc.isVisible(), row.calculatorShown) << row.script << row.col;
-    }
-}
-
-TEST_F(CurrentRow, ShowsItsFinding)
+TEST_F(CurrentRow, SwitchesTheCellTools)
 {
     fillRows(3);
     document.setRowErrorText(2, u"too long"_s);
-    grid.setRow(2);
-    EXPECT_TRUE(editor.errExp.isVisible());
+    const struct
+    {
+        bool script;
+        int row, col;
+        const char *shown; ///< cell editor, calculator button, finding
+    } rows[] = {
+        {false, 2, 0, "+++"}, {false, 3, 2, "++-"}, {false, 2, 3, "+-+"},
+        {true, 3, 2, "++-"},  {true, 2, 3, "--+"},  {true, 3, 5, "---"},
+    };
+    for (const auto &row : rows) {
+        settings.Check6[0].setOn(row.script);
+        grid.setCurrent(1, 1);
+        grid.setCurrent(row.row, row.col);
+        EXPECT_EQ(shown({&editor.rtfEdit, &editor.cmdInvCalc, &editor.errExp}), row.shown)
+            << row.script << row.row << row.col;
+    }
     EXPECT_EQ(editor.lblErrExp.caption(), u"too long"_s);
-    grid.setRow(3);
-    EXPECT_FALSE(editor.errExp.isVisible());
 }
 
 TEST_F(CurrentRow, ChangesNothingWhileTheEditorIsBlocked)

@@ -1,14 +1,6 @@
 #pragma once
 
-#include "controls/form.h"
-#include "core/document.h"
-#include "core/editor_page.h"
-#include "core/font_lists.h"
-#include "core/language.h"
-#include "core/player_page.h"
-#include "core/settings_page.h"
-#include "core/time_page.h"
-#include "tests/support/document_text.h"
+#include "tests/support/document_fixture.h"
 
 #include <QString>
 #include <QStringList>
@@ -18,32 +10,19 @@
 namespace kavro::test {
 
 /// A document over its pages, with no tool around it.
-class DocumentTest : public testing::Test
+class DocumentTest : public testing::Test, public DocumentFixture
 {
 protected:
-    DocumentTest()
-    {
-        fonts.fillStyles(language);
-        document.fillColumnCaptions();
-    }
-
     /// Fills the document, one text a subtitle: "start|end|text|text|text" without what is empty at
     /// the end. Row 1 is shown.
     void fill(const QStringList &subtitles)
     {
-        document.editorBlocked = true;
-        document.ClearGrid();
-        grid.setRows(static_cast<int>(subtitles.size()) + 2);
-        QStringList entries{QString()};
-        for (int row = 1; row <= subtitles.size(); ++row) {
-            const QStringList cells = subtitles[row - 1].split(u'|');
-            grid.setText(row, NumberColumn, QString::number(row));
-            for (int i = 0; i < cells.size(); ++i) {
-                grid.setText(row, StartColumn + i, cells[i]);
-            }
-            entries.append(document.regularFontEntry());
+        QList<GridRow> rows;
+        for (const QString &subtitle : subtitles) {
+            rows.append(QStringList(QString::number(rows.size() + 1)) + subtitle.split(u'|'));
         }
-        editor.lstFont.setItems(entries);
+        document.editorBlocked = true;
+        setRows(rows);
         grid.setCurrent(1, StartColumn);
         document.editorBlocked = false;
         document.RefreshCurrentRow();
@@ -59,32 +38,16 @@ protected:
         fill(subtitles);
     }
 
-    /// Column 0 of the rows behind the header.
-    [[nodiscard]] std::string numbers() const
+    /// "+" for each of the controls that is shown, "-" for one that isn't.
+    [[nodiscard]] static std::string shown(std::initializer_list<const Control *> controls)
     {
-        QStringList texts;
-        for (int row = 1; row < grid.rows(); ++row) {
-            texts.append(grid.text(row, NumberColumn));
+        std::string text;
+        for (const Control *control : controls) {
+            text += control->isVisible() ? '+' : '-';
         }
-        return texts.join(u'|').toStdString();
+        return text;
     }
 
-    /// "row,col=RRGGBB" of the cells with a colour.
-    [[nodiscard]] std::string colours() const
-    {
-        return test::colourLines(grid).join(u' ').toStdString();
-    }
-
-    Form frmMain{QStringLiteral("frmMain")};
-    Form frmSettings{QStringLiteral("frmSettings")};
-    LanguageTable language;
-    ActionTrace trace;
-    EditorPage editor{frmMain};
-    TimePage times{frmMain};
-    FontLists fonts{frmMain};
-    PlayerPage player{frmMain};
-    SettingsPage settings{frmSettings};
-    SubtitleDocument document{editor, times, fonts, player, settings, language, trace};
     Grid &grid = editor.grdSubEdit;
 };
 
