@@ -11,23 +11,6 @@ using namespace Qt::StringLiterals;
 namespace kavro {
 namespace {
 
-struct CountedScan : DiagnoseHost
-{
-    void GoDiagnose() override { ++runs; }
-    void diagnoseWithoutRepairs() override
-    {
-        ++quietRuns;
-        if (during) {
-            during();
-        }
-    }
-
-    std::function<void()> during;
-
-    int runs = 0;
-    int quietRuns = 0;
-};
-
 class UndoStoreTest : public testing::Test, public test::DocumentFixture
 {
 public:
@@ -56,6 +39,34 @@ public:
         const SubtitleDocument::Act act(document);
         grid.setText(row, FirstTextColumn, text);
         document.markEdited();
+    }
+
+    /// Acts, a word each: "1a" writes "a" into row 1 and "1" what stands there, "~1a" does so
+    /// outside an act, "m" marks a node; "(" and ")" enclose one act; "<" and ">" are steps back
+    /// and forward; "s" saves, and "p" saves in part.
+    void run(const char *acts)
+    {
+        std::optional<SubtitleDocument::Act> outer;
+        for (const QString &word : QString::fromLatin1(acts).split(u' ')) {
+            switch (word.front().unicode()) {
+            case u'(': outer.emplace(document); break;
+            case u')': outer.reset(); break;
+            case u'<': undo.undo(); break;
+            case u'>': undo.redo(); break;
+            case u's': document.markSaved(true); break;
+            case u'p': document.markSaved(false); break;
+            case u'm': {
+                const SubtitleDocument::Act act(document);
+                document.nodes[1].flag = true;
+                break;
+            }
+            case u'~':
+                grid.setText(word[1].digitValue(), FirstTextColumn, word.sliced(2));
+                document.markEdited();
+                break;
+            default: write(word[0].digitValue(), word.size() > 1 ? word.sliced(1) : u" "_s + word);
+            }
+        }
     }
 
     [[nodiscard]] std::string state() const
@@ -89,9 +100,8 @@ public:
                + (menu.mnuRedo.isEnabled() ? " redo" : "");
     }
 
-    CountedScan scan;
     Grid &grid = editor.grdSubEdit;
-    UndoStore undo{document, menu, scan, trace};
+    UndoStore undo{document, menu, diagnose, trace};
 };
 
 TEST_F(UndoStoreTest, WalksOverEachKindOfChange)
@@ -139,6 +149,8 @@ TEST_F(UndoStoreTest, WalksOverEachKindOfChange)
              t.grid.setTopRow(2);
          }},
     };
+    int formatsShown = 0;
+    undo.formatChanged = [&] { ++formatsShown; };
     for (const auto &row : rows) {
         open(3);
         const std::string before = state();
@@ -156,12 +168,53 @@ TEST_F(UndoStoreTest, WalksOverEachKindOfChange)
         EXPECT_EQ(state(), after) << row.name;
         EXPECT_EQ(ways(), "undo") << row.name;
     }
+    EXPECT_EQ(formatsShown, 2);
 }
 
-TEST_F(UndoStoreTest, WhatChangedNothingIsNoStep)
+TEST_F(UndoStoreTest, StepsAreWhatChangedTheDocument)
 {
-    write(1, u" 1"_s);
-    EXPECT_EQ(ways(), "");
+    const struct
+    {
+        const char *name;
+        const char *acts;
+        const char *after; ///< the texts, the ways, and "*" for changed
+    } rows[] = {
+        {"what changed nothing is no step", "1", " 1 2 3*"},
+        {"nested acts are one step", "( 1a 2b ) <", " 1 2 3 redo"},
+        {"a new change ends the way forward", "1a 1b < 2c > >", "ac 3 undo*"},
+        {"and the way back leads past it", "1a 1b < 2c < <", " 1 2 3 redo"},
+        {"a change outside an act", "~1a 2b <", "a 2 3 undo redo*"},
+        {"is a step of its own", "~1a 2b < <", " 1 2 3 redo"},
+        {"a saved state", "1a 1b s", "b 2 3 undo"},
+        {"back from it", "1a 1b s <", "a 2 3 undo redo*"},
+        {"and further", "1a 1b s < <", " 1 2 3 redo*"},
+        {"forward to it", "1a 1b s < < > >", "b 2 3 undo"},
+        {"back from one saved on the way", "1a 1b s < s <", " 1 2 3 redo*"},
+        {"and forward to it", "1a 1b s < s < >", "a 2 3 undo redo"},
+        {"the text of the first one saved is not saved now", "1a 1b s < s 1b", "b 2 3 undo*"},
+        {"back to the second one", "1a 1b s < s 1b <", "a 2 3 undo redo"},
+        {"and forward", "1a 1b s < s 1b < >", "b 2 3 undo*"},
+        {"a save that left rows out of the file of the first", "1a p <", " 1 2 3 redo*"},
+        {"and one of all rows behind it", "1a p < s", " 1 2 3 redo"},
+        {"a mark, which is in no file", "m", " 1 2 3 undo"},
+        {"back from a mark", "m <", " 1 2 3 redo"},
+        {"forward to a mark", "m < >", " 1 2 3 undo"},
+    };
+    for (const auto &row : rows) {
+        open(3);
+        run(row.acts);
+        std::string after;
+        for (int line = 1; line <= 3; ++line) {
+            after += grid.text(line, FirstTextColumn).toStdString();
+        }
+        after += (undo.canUndo() ? " undo" : "") + std::string(undo.canRedo() ? " redo" : "")
+                 + (document.fileChanged() ? "*" : "");
+        EXPECT_EQ(after, row.after) << row.name;
+    }
+}
+
+TEST_F(UndoStoreTest, PlacesMarksAndTheHeaderAreNoStep)
+{
     {
         const SubtitleDocument::Act act(document);
         grid.setAllRows(QList<GridRow>(grid.allRows())); // the same again
@@ -173,98 +226,11 @@ TEST_F(UndoStoreTest, WhatChangedNothingIsNoStep)
     undo.undo();
     undo.redo();
     EXPECT_EQ(grid.row(), 2);
-}
-
-TEST_F(UndoStoreTest, NestedActsAreOneStep)
-{
-    const std::string before = state();
-    {
-        const SubtitleDocument::Act act(document);
-        write(1, u"a"_s);
-        write(2, u"b"_s);
-    }
+    grid.setText(0, 3, u"another language"_s);
+    write(2, u"x"_s);
     undo.undo();
-    EXPECT_EQ(state(), before);
-    EXPECT_EQ(ways(), " redo");
-}
-
-TEST_F(UndoStoreTest, NewChangeEndsTheWayForward)
-{
-    write(1, u"a"_s);
-    write(1, u"b"_s);
-    undo.undo();
-    write(2, u"c"_s);
-    EXPECT_EQ(ways(), "undo");
-    undo.undo();
-    EXPECT_EQ(grid.text(1, 3), u"a"_s);
-    undo.undo();
-    EXPECT_EQ(grid.text(1, 3), u" 1"_s);
-    EXPECT_EQ(ways(), " redo");
-    for (int i = 0; i < 5; ++i) {
-        undo.redo();
-    }
-    EXPECT_EQ(grid.text(1, 3), u"a"_s);
-    EXPECT_EQ(grid.text(2, 3), u"c"_s);
-}
-
-TEST_F(UndoStoreTest, ChangeOutsideAnActIsAStepOfItsOwn)
-{
-    grid.setText(1, 3, u"outside"_s);
-    document.markEdited();
-    grid.setText(0, 3, u"another language"_s); // no change of the document
-    write(2, u"inside"_s);
-    undo.undo();
-    EXPECT_EQ(grid.text(1, 3), u"outside"_s);
-    undo.undo();
-    EXPECT_EQ(grid.text(1, 3), u" 1"_s);
     EXPECT_EQ(grid.text(0, 3), u"another language"_s);
     EXPECT_EQ(ways(), " redo");
-}
-
-TEST_F(UndoStoreTest, SavedStateComesBackAsUnchanged)
-{
-    write(1, u"a"_s);
-    write(1, u"b"_s);
-    document.setFileChanged(false); // saved
-    EXPECT_EQ(ways(), "undo");
-    undo.undo();
-    EXPECT_TRUE(document.fileChanged());
-    undo.undo();
-    EXPECT_TRUE(document.fileChanged());
-    undo.redo();
-    undo.redo();
-    EXPECT_FALSE(document.fileChanged());
-
-    undo.undo();
-    document.setFileChanged(false);
-    undo.undo();
-    EXPECT_TRUE(document.fileChanged());
-    undo.redo();
-    EXPECT_FALSE(document.fileChanged());
-    write(1, u"b"_s); // the same text as the one that was saved first, and yet not saved now
-    undo.undo();
-    EXPECT_FALSE(document.fileChanged());
-    undo.redo();
-    EXPECT_TRUE(document.fileChanged());
-
-    document.markSaved(false); // over the file that held an earlier state
-    undo.undo();
-    EXPECT_TRUE(document.fileChanged());
-    document.markSaved(true);
-    EXPECT_FALSE(document.fileChanged());
-}
-
-TEST_F(UndoStoreTest, MarkThatLeavesTheFlagIsNotInTheFile)
-{
-    {
-        const SubtitleDocument::Act act(document);
-        document.nodes[1].flag = true;
-    }
-    EXPECT_FALSE(document.fileChanged());
-    undo.undo();
-    EXPECT_FALSE(document.fileChanged());
-    undo.redo();
-    EXPECT_FALSE(document.fileChanged());
 }
 
 TEST_F(UndoStoreTest, NewDocumentHasNothingBehindIt)
@@ -296,21 +262,6 @@ TEST_F(UndoStoreTest, SaveUnderAnotherNameStaysItsName)
     EXPECT_EQ(document.curFormatId, 3);
     EXPECT_EQ(document.savedPath, u"other.sub"_s);
     EXPECT_EQ(ways(), " redo");
-}
-
-TEST_F(UndoStoreTest, FormatIsShownWhenAWalkChangesIt)
-{
-    int shown = 0;
-    undo.formatChanged = [&] { ++shown; };
-    write(1, u"a"_s);
-    {
-        const SubtitleDocument::Act act(document);
-        document.curFormatId = 3;
-    }
-    undo.undo();
-    EXPECT_EQ(shown, 1);
-    undo.undo();
-    EXPECT_EQ(shown, 1);
 }
 
 TEST_F(UndoStoreTest, PlaceOfTheChangeComesIntoSight)
@@ -348,7 +299,7 @@ TEST_F(UndoStoreTest, ScansWhereThereWereFindings)
     } rows[] = {{0, 0, 0}, {1, 0, 1}, {0, 2, 1}, {2, 2, 1}};
     for (const auto &row : rows) {
         open(3);
-        scan.quietRuns = 0;
+        diagnose.quietRuns = 0;
         document.errorCount = row.before;
         {
             const SubtitleDocument::Act act(document);
@@ -356,17 +307,17 @@ TEST_F(UndoStoreTest, ScansWhereThereWereFindings)
             document.errorCount = row.after;
         }
         undo.undo();
-        EXPECT_EQ(scan.quietRuns, row.scans) << row.before << ' ' << row.after;
+        EXPECT_EQ(diagnose.quietRuns, row.scans) << row.before << ' ' << row.after;
         EXPECT_EQ(document.errorCount, row.before);
         undo.redo();
         EXPECT_EQ(document.errorCount, row.after);
     }
-    EXPECT_EQ(scan.runs, 0); // the repairs stay off
+    EXPECT_EQ(diagnose.runs, 0); // the repairs stay off
 }
 
 TEST_F(UndoStoreTest, ScanIsNoActOfThePersons)
 {
-    scan.during = [this] {
+    diagnose.during = [this] {
         const SubtitleDocument::Act act(document); // no step either
         trace.RecordAction({}, 719);
         grid.setCurrent(3, 1);
@@ -376,21 +327,11 @@ TEST_F(UndoStoreTest, ScanIsNoActOfThePersons)
     trace.RecordAction(u"kept"_s, 504);
     const QString before = place();
     undo.undo();
-    EXPECT_EQ(scan.quietRuns, 1);
+    EXPECT_EQ(diagnose.quietRuns, 1);
     EXPECT_EQ(trace.lastActionCode, 504);
     EXPECT_EQ(trace.lastActionText, u"kept"_s);
     EXPECT_EQ(place(), before);
     EXPECT_EQ(ways(), " redo");
-}
-
-TEST_F(UndoStoreTest, LeavesHistoryAndTraceAlone)
-{
-    write(1, u"x"_s);
-    trace.RecordAction(u"kept"_s, 504);
-    undo.undo();
-    undo.redo();
-    EXPECT_EQ(trace.lastActionCode, 504);
-    EXPECT_EQ(history.List1.count(), 0);
 }
 
 TEST_F(UndoStoreTest, RangesEndWithTheDocument)
@@ -414,11 +355,14 @@ TEST_F(UndoStoreTest, OldestStepsGo)
     for (int i = 1; i <= 1010; ++i) {
         write(1, QString::number(i));
     }
-    int steps = 0;
-    for (; undo.canUndo(); ++steps) {
-        undo.undo();
-    }
-    EXPECT_EQ(steps, 1000);
+    const auto stepsBack = [this] {
+        int steps = 0;
+        for (; undo.canUndo(); ++steps) {
+            undo.undo();
+        }
+        return steps;
+    };
+    EXPECT_EQ(stepsBack(), 1000);
     EXPECT_EQ(grid.text(1, 3), u"10"_s);
 
     open(1);
@@ -426,9 +370,7 @@ TEST_F(UndoStoreTest, OldestStepsGo)
     for (int i = 1; i <= 20; ++i) {
         write(1, large + QString::number(i));
     }
-    for (steps = 0; undo.canUndo(); ++steps) {
-        undo.undo();
-    }
+    const int steps = stepsBack();
     EXPECT_GE(steps, 5);
     EXPECT_LE(steps, 8);
 

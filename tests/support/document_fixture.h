@@ -29,9 +29,27 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <string>
 
 namespace kavro::test {
+
+/// Counts the scans that others have run.
+struct CountedScan : DiagnoseHost
+{
+    void GoDiagnose() override { ++runs; }
+    void diagnoseWithoutRepairs() override
+    {
+        ++quietRuns;
+        if (during) {
+            during();
+        }
+    }
+
+    std::function<void()> during;
+    int runs = 0;
+    int quietRuns = 0;
+};
 
 /// A document with its pages and scripted answers, in an application folder of its own; for tests
 /// below the program.
@@ -159,7 +177,7 @@ struct DocumentFixture
     Messages messages{frmMessageBox, messageWindow, trace, variables};
     ControlWindow control{frmControl, settings};
     SubtitleDocument document{editor, times, fonts, player, settings, language, trace};
-    DiagnoseHost diagnose;
+    CountedScan diagnose;
     EditHistory history{frmHistory,
                         {.document = document,
                          .forms = formWindows,
