@@ -71,52 +71,41 @@ TEST_F(CellEditing, EnterInTheGridEntersACellThatHasAnEditor)
     EXPECT_EQ(lastAction(), "/0");
 }
 
-TEST_F(CellEditing, EnterChangesTheCell)
+TEST_F(CellEditing, KeysEndTheEdit)
 {
-    grid.setCurrent(2, 3);
-    editor.rtfEdit.setFocus();
-    editor.rtfEdit.type(u" new text "_s);
-    EXPECT_EQ(editor.rtfSubEditBasic.text(), u" new text "_s);
-    editor.rtfEdit.press(Key::Enter);
-    EXPECT_EQ(lastAction(), " new text /505");
-    EXPECT_EQ(changes, 1);
-    EXPECT_TRUE(grid.hasFocus());
-
-    editor.rtfSubEditBasic.setFocus();
-    editor.rtfSubEditBasic.type(u"other"_s);
-    editor.rtfSubEditBasic.press(Key::Escape);
-    editor.rtfSubEditBasic.press(Key::Tab);
-    EXPECT_EQ(changes, 1);
-    editor.rtfSubEditBasic.press(Key::Enter);
-    EXPECT_EQ(lastAction(), "other/505");
-    EXPECT_EQ(changes, 2);
-    EXPECT_TRUE(editor.rtfSubEditBasic.hasFocus());
-}
-
-TEST_F(CellEditing, EnterOnlyRecordsWhileAMacroIsRecorded)
-{
-    trace.recorderState = 1;
-    editor.rtfEdit.press(Key::Enter);
-    editor.rtfSubEditBasic.press(Key::Enter);
-    EXPECT_EQ(changes, 0);
-    EXPECT_EQ(lastAction(), "00:00:01,000/505");
-    trace.recorderState = 3; // a macro that waits is no recording
-    editor.rtfEdit.press(Key::Enter);
-    EXPECT_EQ(changes, 1);
-}
-
-TEST_F(CellEditing, EscapeDropsTheEdit)
-{
+    const struct
+    {
+        const char *name;
+        TextBox &box;
+        Key key;
+        int recorderState;
+        const char *action;
+        int changes;
+        QStringView text; ///< that the boxes show
+    } rows[] = {
+        {"Enter", editor.rtfEdit, Key::Enter, 0, " new /505", 1, u" new "},
+        {"in the box below", editor.rtfSubEditBasic, Key::Enter, 0, " new /505", 1, u" new "},
+        {"while a macro is recorded", editor.rtfEdit, Key::Enter, 1, " new /505", 0, u" new "},
+        {"and below", editor.rtfSubEditBasic, Key::Enter, 1, " new /505", 0, u" new "},
+        {"while a macro waits", editor.rtfEdit, Key::Enter, 3, " new /505", 1, u" new "},
+        {"Escape drops the edit", editor.rtfEdit, Key::Escape, 0, "/0", 0, u"2"},
+        {"but not below", editor.rtfSubEditBasic, Key::Escape, 0, "/0", 0, u" new "},
+        {"nor does Tab", editor.rtfSubEditBasic, Key::Tab, 0, "/0", 0, u" new "},
+    };
     grid.setCurrent(2, 3);
     times.rtfTimeStart.type(u"00:00:09,000"_s);
-    editor.rtfEdit.setFocus();
-    editor.rtfEdit.type(u"new"_s);
-    editor.rtfEdit.press(Key::Escape);
-    EXPECT_EQ(editor.rtfEdit.text(), u"2"_s);
-    EXPECT_EQ(editor.rtfSubEditBasic.text(), u"2"_s);
-    EXPECT_TRUE(grid.hasFocus());
-    EXPECT_EQ(changes, 0);
-    EXPECT_EQ(lastAction(), "/0");
+    for (const auto &row : rows) {
+        changes = 0;
+        trace.RecordAction({}, 0);
+        trace.recorderState = row.recorderState;
+        row.box.setFocus();
+        row.box.type(u" new "_s);
+        row.box.press(row.key);
+        EXPECT_EQ(lastAction(), row.action) << row.name;
+        EXPECT_EQ(changes, row.changes) << row.name;
+        EXPECT_EQ(editor.rtfSubEditBasic.text(), row.text.toString()) << row.name;
+        EXPECT_EQ(grid.hasFocus(), &row.box == &editor.rtfEdit) << row.name;
+    }
     EXPECT_EQ(times.rtfTimeStart.text(), u"00:00:09,000"_s); // what is typed elsewhere stays
 }
 

@@ -54,6 +54,7 @@ TEST_F(FoldersTest, ChoosesTheApplicationFolder)
     sources.appDir = disk.path("given");
     EXPECT_EQ(make()->path(Folder::Root), disk.path("given"));
     EXPECT_EQ(disk.read("given/System/Settings/set.sdf"), "shipped");
+    EXPECT_EQ(make(FolderUse::Shipped)->path(Folder::Root), disk.path("given"));
 
     sources.appDir.clear();
     sources.home.clear();
@@ -61,14 +62,11 @@ TEST_F(FoldersTest, ChoosesTheApplicationFolder)
     EXPECT_EQ(make()->path(Folder::Root), disk.path("bin"));
     EXPECT_EQ(disk.read("bin/System/Settings/set.sdf"), "(none)")
         << "a folder of one's own is not filled";
-}
 
-TEST_F(FoldersTest, FindsWhatIsShippedAroundABuild)
-{
     disk.makeFolder("tree/build/release");
     disk.makeFolder("tree/share/System");
     sources.executableFolder = disk.path("tree/build/release");
-    EXPECT_EQ(Folders(store, sources, FolderUse::Own).shipped(), disk.path("tree/share"));
+    EXPECT_EQ(make()->shipped(), disk.path("tree/share")) << "found around a build";
 }
 
 TEST_F(FoldersTest, RunsWithNothingShipped)
@@ -219,14 +217,6 @@ TEST_F(FoldersTest, RemovesFilesByPatternAndNeverShippedOnes)
     const std::string shipped = disk.entries("share/kavro");
     make(FolderUse::Shipped)->removeFiles(Folder::Root, u"splitprv.*");
     EXPECT_EQ(disk.entries("share/kavro"), shipped);
-}
-
-TEST_F(FoldersTest, AppDirIsUsedAlsoWhereTheShippedOneWouldBe)
-{
-    sources.appDir = disk.path("given");
-    auto folders = make(FolderUse::Shipped);
-    EXPECT_EQ(folders->path(Folder::Root), disk.path("given"));
-    EXPECT_EQ(disk.read("given/Data/Calculator/default.sac"), "cels");
 }
 
 } // namespace

@@ -71,21 +71,10 @@ TEST_F(LineReaderTest, EncodingsAndMarks)
         QByteArray bytes;
         const char *lines;
     } rows[] = {
-        {"\xEF\xBB\xBF"
-         "caf\xC3\xA9\n",
-         "café"},
-        {QByteArray("\xFF\xFE"
-                    "a\0\r\0\n\0b\0",
-                    10),
-         "a|b"},
-        {QByteArray("\xFE\xFF"
-                    "\0a\0\r\0\n\0b",
-                    10),
-         "a|b"},
-        {QByteArray("\xFF\xFE\0\0"
-                    "a\0\0\0\n\0\0\0b\0\0\0",
-                    16),
-         "a|b"},
+        {"\xEF\xBB\xBFt\xC3\xA9\n", "té"},
+        {QByteArray("\xFF\xFEx\0\r\0\n\0y\0", 10), "x|y"},
+        {QByteArray("\xFE\xFF\0x\0\r\0\n\0y", 10), "x|y"},
+        {QByteArray("\xFF\xFE\0\0x\0\0\0\n\0\0\0y\0\0\0", 16), "x|y"},
         {QByteArray("\xFF\xFE\x0A\x0A", 4), "\u0A0A"}, // no line end in it
         {"caf\xE9\n", "café"},
     };
