@@ -69,21 +69,6 @@ TEST_F(DocumentTest, FindingsHaveTheBoundsOfTheGrid)
     EXPECT_EQ(document.rowErrorText(0), QString());
 }
 
-TEST_F(DocumentTest, TheTwoFlagsOfChangeAreOpposites)
-{
-    QStringList heard;
-    QObject::connect(&document, &SubtitleDocument::fileChangedChanged, &document,
-                     [&](bool changed) { heard.append(changed ? u"yes"_s : u"no"_s); });
-    document.subtitleChanged = true;
-    document.markEdited();
-    document.markEdited();
-    EXPECT_TRUE(document.fileChanged());
-    EXPECT_FALSE(document.subtitleChanged);
-    document.setFileChanged(false);
-    EXPECT_FALSE(document.subtitleChanged);
-    EXPECT_EQ(heard, (QStringList{u"yes"_s, u"no"_s}));
-}
-
 TEST_F(DocumentTest, FontEntriesTakeTheLanguagesWords)
 {
     language.setText(LangGroup::Common, 25, u"Normaal"_s);

@@ -47,14 +47,7 @@ public:
     /// Rows with their numbers, nodes and the cells with a colour: what a snapshot brings back.
     [[nodiscard]] std::string content() const
     {
-        QStringList lines;
-        for (const GridRow &row : grid.allRows()) {
-            lines.append(row.join(u'|'));
-        }
-        lines += test::nodeLines(document);
-        lines.append(QString::number(document.curNode));
-        lines += test::colourLines(grid);
-        return lines.join(u'\n').toStdString();
+        return test::contentLines(document).join(u'\n').toStdString();
     }
 
     void log(const QString &action = u"Acted"_s) { history.LogHistory(action, u"how"_s); }

@@ -1,27 +1,11 @@
 #include "core/language.h"
 
-#include "core/language_defaults.h"
-
 #include <gtest/gtest.h>
-
-#include <set>
 
 using namespace Qt::StringLiterals;
 
 namespace kavro {
 namespace {
-
-TEST(Language, EachDefaultHasAPlaceOfItsOwn)
-{
-    const LanguageTable table;
-    std::set<std::pair<LangGroup, int>> places;
-    for (const DefaultText &row : defaultTexts()) {
-        const std::string name = row.text.toString().toStdString();
-        EXPECT_TRUE(places.emplace(row.group, row.item).second) << name;
-        EXPECT_EQ(table.text(row.group, row.item), row.text.toString()) << name;
-        EXPECT_EQ(table.tip(row.group, row.item), row.tip.toString()) << name;
-    }
-}
 
 TEST(Language, GroupsAreCompleteToTheirLastItem)
 {

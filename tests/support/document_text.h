@@ -2,6 +2,7 @@
 
 #include "controls/grid.h"
 #include "core/document.h"
+#include "core/editor_page.h"
 
 #include <QString>
 #include <QStringList>
@@ -32,6 +33,19 @@ inline QStringList nodeLines(const SubtitleDocument &document)
                          .arg(node.flag));
     }
     return lines;
+}
+
+/// The rows, the nodes with the current one, and the colours, a line each.
+inline QStringList contentLines(const SubtitleDocument &document)
+{
+    const Grid &grid = document.editor.grdSubEdit;
+    QStringList lines;
+    for (const GridRow &row : grid.allRows()) {
+        lines.append(row.join(QChar(u'|')));
+    }
+    lines += nodeLines(document);
+    lines.append(QStringLiteral("node %1").arg(document.curNode));
+    return lines + colourLines(grid);
 }
 
 } // namespace kavro::test
