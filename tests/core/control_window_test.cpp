@@ -53,6 +53,12 @@ TEST_F(ControlWindowTest, ClosesByItselfOnlyWhenTheSettingSaysSo)
     window.open({});
     form.requestClose();
     EXPECT_FALSE(form.isOpen());
+
+    window.quiet = true;
+    window.open(u"Loading file"_s);
+    window.append(u"log"_s);
+    EXPECT_FALSE(form.isOpen());
+    EXPECT_EQ(window.Text1[0].text(), u"log"_s);
 }
 
 TEST_F(ControlWindowTest, BoxAndSettingAreOne)
@@ -62,15 +68,6 @@ TEST_F(ControlWindowTest, BoxAndSettingAreOne)
     EXPECT_FALSE(settings.Check3.isOn());
     settings.Check3.setOn(true);
     EXPECT_TRUE(window.chkClose.isOn());
-}
-
-TEST_F(ControlWindowTest, QuietKeepsItAwayAndItsLog)
-{
-    window.quiet = true;
-    window.open(u"Loading file"_s);
-    window.append(u"log"_s);
-    EXPECT_FALSE(form.isOpen());
-    EXPECT_EQ(window.Text1[0].text(), u"log"_s);
 }
 
 } // namespace

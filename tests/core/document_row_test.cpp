@@ -25,6 +25,10 @@ TEST_F(CurrentRow, IsShownInThePanels)
     EXPECT_EQ(editor.Label23[1].text(), u"b"_s);
     EXPECT_EQ(editor.Label23[2].text(), QString());
     EXPECT_EQ(grid.text(1, 3), u"  a "_s); // the cell keeps its blanks
+    document.subShowSubtitle(u"   shown "_s, 2);
+    document.subShowSubtitle(u"lost"_s, 3);
+    document.subShowSubtitle(u"lost"_s, -1);
+    EXPECT_EQ(editor.Label23[2].text(), u"shown "_s);
 
     grid.setCurrent(2, 1);
     EXPECT_EQ(editor.Label13.caption(), u"Row: 2, Col: 1 = Start"_s);
@@ -169,16 +173,6 @@ TEST_F(CurrentRow, StyleWordThatHoldsTheOtherMakesBoth)
     document.RefreshCurrentRow();
     EXPECT_TRUE(editor.Label23[0].isBold());
     EXPECT_TRUE(editor.Label23[0].isItalic());
-}
-
-TEST_F(CurrentRow, PreviewLineTakesAnyText)
-{
-    fillRows(2);
-    document.subShowSubtitle(u"   shown "_s, 2);
-    EXPECT_EQ(editor.Label23[2].text(), u"shown "_s);
-    document.subShowSubtitle(u"lost"_s, 3);
-    document.subShowSubtitle(u"lost"_s, -1);
-    EXPECT_EQ(editor.Label23[0].text(), u"1"_s);
 }
 
 } // namespace

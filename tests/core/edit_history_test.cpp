@@ -305,11 +305,9 @@ TEST_F(EditHistoryTest, WindowShowsDetailsAndRestores)
     EXPECT_EQ(grid.text(1, StartColumn), u"changed"_s);
 
     setRows({});
-    for (const auto &close : {std::function([this](Form &) { history.Command1[0].click(); }),
-                              std::function([](Form &form) { form.requestClose(); })})
-    {
+    for (const bool button : {true, false}) {
         formWindows.during = [&](Form &form) {
-            close(form);
+            button ? history.Command1[0].click() : form.requestClose();
             EXPECT_FALSE(form.isOpen());
         };
         history.show();

@@ -105,10 +105,7 @@ TEST_F(UndoStoreTest, WalksOverEachKindOfChange)
         std::function<void(UndoStoreTest &)> change;
     } rows[] = {
         {"a cell", [](auto &t) { t.grid.setText(2, 4, u"x"_s); }},
-        {"all cells",
-         [](auto &t) {
-             t.grid.setAllRows({t.grid.allRows().constFirst(), {}});
-         }},
+        {"all rows but the last", [](auto &t) { t.grid.setRows(2); }},
         {"a row more", [](auto &t) { t.grid.insertRow(2, {u"n"_s}); }},
         {"a row fewer", [](auto &t) { t.grid.removeRow(3); }},
         {"the header", [](auto &t) { t.grid.setText(0, 3, u"text ahead"_s); }},
