@@ -44,6 +44,18 @@ bool renameOver(const QString &from, const QString &to)
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
 }
 
+/// Also where the disk takes a part of it at first.
+bool writeAll(QFile &file, const char *bytes, qint64 length)
+{
+    for (qint64 done = 0; done < length;) {
+        const qint64 written = file.write(bytes + done, length - done);
+        if (written <= 0)
+            return false;
+        done += written;
+    }
+    return true;
+}
+
 /// A name in a folder for a file that is on its way to another name.
 QString newNameIn(const QString &folder)
 {
@@ -134,10 +146,10 @@ FileStatus FileStore::copy(const QString &from, const QString &to)
     if (!copy.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return faultOf(copy);
     FileStatus status;
-    while (status.ok() && !source.atEnd()) {
+    while (status.ok() && source.error() == QFileDevice::NoError && !source.atEnd()) {
         const QByteArray part = source.read(qint64{flushLength});
         const qint64 taken = take(part.size());
-        if (copy.write(part.constData(), taken) != taken)
+        if (!writeAll(copy, part.constData(), taken))
             status = faultOf(copy);
         else if (taken < part.size())
             status = diskFull();
@@ -250,14 +262,8 @@ bool FileWriter::flush()
 bool FileWriter::writeBytes()
 {
     const qint64 taken = m_store.take(m_bytes.size());
-    const char *at = m_bytes.constData();
-    for (qint64 left = taken; left > 0;) {
-        const qint64 written = m_file.write(at, left);
-        if (written <= 0)
-            return failDevice();
-        at += written;
-        left -= written;
-    }
+    if (!writeAll(m_file, m_bytes.constData(), taken))
+        return failDevice();
     if (taken < m_bytes.size())
         return fail(FileFault::DiskFull, diskFull().text);
     m_bytes.resize(0);
