@@ -208,14 +208,17 @@ void Folders::lockTemporary()
     const QString folder = matchName(m_root, pathOf(Folder::Temporary));
     if (!QFileInfo(folder).isWritable())
         return;
-    m_lock = tryLock(folder);
-    for (int number = 2; !m_lock && number < mostPrograms; ++number) {
-        const QString name = runPrefix + QString::number(number);
-        if (!m_store.makeFolder(folder + u'/' + name).ok())
+    for (int number = 1; number < mostPrograms; ++number) {
+        const QString name = number == 1 ? QString() : runPrefix + QString::number(number);
+        const QString own = number == 1 ? folder : folder + u'/' + name;
+        if (!m_store.makeFolder(own).ok())
             return;
-        m_lock = tryLock(folder + u'/' + name);
+        m_lock = tryLock(own);
         if (m_lock)
             m_runFolder = name;
+        // Where no lock of another's stands, the disk takes none now.
+        if (m_lock || !QFileInfo::exists(own + u'/' + lockName))
+            return;
     }
 }
 
