@@ -18,7 +18,7 @@ TEST(Language, GroupsAreCompleteToTheirLastItem)
     } rows[] = {
         {LangGroup::Preview, 0, 1, true},    {LangGroup::CopyFirst, 0, 5, true},
         {LangGroup::CopySecond, 0, 2, true}, {LangGroup::Player, 0, 4, false},
-        {LangGroup::Common, 0, 43, false},   {LangGroup::User, 0, 2, false},
+        {LangGroup::Common, 0, 46, false},   {LangGroup::User, 0, 2, false},
         {LangGroup::File, 0, 2, false},      {LangGroup::Variables, 0, 0, false},
         {LangGroup::About, 1, 4, false},     {LangGroup::Report, 0, 20, false},
     };
