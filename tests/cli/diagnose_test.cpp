@@ -1,8 +1,6 @@
 #include "tests/cli/cli_fixture.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 using namespace Qt::StringLiterals;
 
@@ -58,48 +56,30 @@ TEST_F(DiagnoseCall, TellsThatNothingIsWrong)
     EXPECT_NE(result.out.find("\n\nNo findings remain.\n"), std::string::npos) << result;
 }
 
-struct Repair
+TEST_F(DiagnoseCall, WritesTheRepairedScript)
 {
-    const char *name;
-    QString call;
-    int status;
-    QStringList remaining; ///< the rows' texts behind the repair, in frames
-};
-
-class DiagnoseRepair : public DiagnoseCall, public testing::WithParamInterface<Repair>
-{};
-
-TEST_P(DiagnoseRepair, WritesTheRepairedScript)
-{
-    const Repair &repair = GetParam();
-    const CliRun result = diagnose(u"scan.sub -o out.txt "_s + repair.call);
-    EXPECT_EQ(result.status, repair.status) << result;
-    // The format sets the extension.
-    EXPECT_EQ(read(u"out.sub"_s), repair.remaining.join(u'\n').toStdString() + '\n');
-    EXPECT_EQ(read(u"scan.sub"_s), faulty.toStdString());
+    const std::string one = "{25}{75}one two\n", two = "{50}{100}three|four\n";
+    const std::string mended = "{25}{50}one two\n" + two + "{200}{200}five\n";
+    const struct
+    {
+        QString call;
+        int status;
+        std::string written;
+    } cases[] = {
+        {u"--json"_s, 1, faulty.toStdString()},
+        {u"--repair overlapping"_s, 1, "{25}{50}one two\n" + two + "{125}{150}\n{200}{175}five\n"},
+        {u"--repair invalid"_s, 1, one + two + "{125}{150}\n{200}{200}five\n"},
+        {u"--repair Empty,invalid,overlapping"_s, 0, mended},
+        {u"--repair empty --repair invalid --repair overlapping"_s, 0, mended},
+    };
+    for (const auto &[call, status, written] : cases) {
+        // The format sets the extension.
+        const CliRun result = diagnose(u"scan.sub -o out.txt --overwrite "_s + call);
+        EXPECT_EQ(result.status, status) << result;
+        EXPECT_EQ(read(u"out.sub"_s), written) << qPrintable(call);
+        EXPECT_EQ(read(u"scan.sub"_s), faulty.toStdString());
+    }
 }
-
-const Repair repairs[] = {
-    {"none",
-     u"--json"_s,
-     1,
-     {u"{25}{75}one two"_s, u"{50}{100}three|four"_s, u"{125}{150}"_s, u"{200}{175}five"_s}},
-    {"some",
-     u"--repair overlapping"_s,
-     1,
-     {u"{25}{50}one two"_s, u"{50}{100}three|four"_s, u"{125}{150}"_s, u"{200}{175}five"_s}},
-    {"all",
-     u"--repair Empty,invalid,overlapping"_s,
-     0,
-     {u"{25}{50}one two"_s, u"{50}{100}three|four"_s, u"{200}{200}five"_s}},
-    {"oneByOne",
-     u"--repair empty --repair invalid --repair overlapping"_s,
-     0,
-     {u"{25}{50}one two"_s, u"{50}{100}three|four"_s, u"{200}{200}five"_s}},
-};
-
-INSTANTIATE_TEST_SUITE_P(Cases, DiagnoseRepair, testing::ValuesIn(repairs),
-                         [](const auto &one) { return one.param.name; });
 
 TEST_F(DiagnoseCall, ReplacesAFileOnlyWhenTold)
 {
@@ -117,19 +97,11 @@ TEST_F(DiagnoseCall, JsonHoldsTheTree)
     const CliRun result = diagnose(u"scan.sub --json"_s);
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(std::ranges::count(result.out, '\n'), 1);
-    const QJsonObject object =
-        QJsonDocument::fromJson(QByteArray::fromStdString(result.out)).object();
-    EXPECT_EQ(object.keys(), (QStringList{u"errorCount"_s, u"file"_s, u"nodes"_s}));
-    EXPECT_EQ(object[u"errorCount"].toInt(), 3);
-    EXPECT_EQ(object[u"file"].toString(), u"FOLDER/scan.sub"_s);
-    const QJsonArray nodes = object[u"nodes"].toArray();
-    ASSERT_EQ(nodes.size(), 3);
-    EXPECT_EQ(nodes[2][u"key"].toString(), u"err"_s);
-    const QJsonValue line =
-        nodes[2][u"children"][0][u"children"][0][u"children"][0][u"children"][0];
-    EXPECT_EQ(line[u"key"].toString(), u"err_ 2"_s);
-    EXPECT_EQ(line[u"text"].toString(), u"Line 0002"_s);
-    EXPECT_TRUE(line[u"children"][0][u"key"].isNull());
+    EXPECT_EQ(result.out.find(R"({"file": "FOLDER/scan.sub", "errorCount": 3, "nodes": )"
+                              R"([{"key": "file", "text": "File", "children": [)"),
+              0U)
+        << result;
+    EXPECT_TRUE(QJsonDocument::fromJson(QByteArray::fromStdString(result.out)).isObject());
 }
 
 // The run that deletes line 1 passes by the line that has moved up, the one within it doesn't.

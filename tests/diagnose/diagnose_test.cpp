@@ -139,37 +139,11 @@ TEST_F(DiagnoseTest, FrameTellsOfAFileThatIsTooLong)
     EXPECT_EQ(fixture.below(u"errdet"_s), "0");
 }
 
-TEST_F(DiagnoseTest, ScansTheNodesAndNothingElse)
-{
-    fixture.switchOn({CheckEmpty, CheckOverlapping});
-    fixture.fill({u"00:00:01,000|00:00:09,000"_s, u"00:00:02,000|00:00:03,000|b"_s,
-                  u"00:00:04,000|00:00:05,000"_s, u"00:00:06,000|00:00:07,000"_s});
-    document.nodeCount = 2;
-    document.nodes[1] = {.firstRow = 2, .lastRow = 2, .name = {}, .flag = false};
-    // Ends far behind the last line: the end row ends it.
-    document.nodes[2] = {.firstRow = 4, .lastRow = 12, .name = {}, .flag = false};
-    fixture.go();
-    EXPECT_EQ(fixture.below(u"sum_node"_s),
-              "Node[1] = 2 to 2\n"
-              "  Line 0002\n    End.Time 0001 > Start.Time 0002. Diff = 00:00:07,000\n"
-              "Node[2] = 4 to 12\n"
-              "  Line 0004\n    Complete line is empty");
-    EXPECT_EQ(document.errorCount, 2);
-}
-
-TEST_F(DiagnoseTest, ChecksAndCountsAreOnAtTheStartAndRepairsOff)
-{
-    std::string on;
-    for (const CheckBox &box : diagnose.Check3) {
-        on += box.isOn() ? '1' : '0';
-    }
-    EXPECT_EQ(on, "1111111000");
-}
-
-TEST_F(DiagnoseTest, EachBoxIsRecordedWithItsCode)
+TEST_F(DiagnoseTest, BoxesStartWithoutRepairsAndAreRecordedWithTheirCodes)
 {
     const int on[] = {701, 703, 705, 707, 709, 711, 713, 715, 717, 720};
     for (CheckBox &box : diagnose.Check3) {
+        EXPECT_EQ(box.isOn(), box.index() < 7) << box.index();
         box.check(true);
         EXPECT_EQ(fixture.run->trace.lastActionCode, on[box.index()]) << box.index();
         box.check(false);
@@ -208,24 +182,15 @@ TEST_F(DiagnoseTest, DurationIsTheClocks)
     }
 }
 
-TEST_F(DiagnoseTest, RepairedCellIsCurrentWhileTheRunGoesOn)
-{
-    // The repair moves the current cell away from the mark, so line 3 isn't told of it.
-    fixture.switchOn({CheckEmpty, CheckNegative, RepairInvalid});
-    fixture.fill(
-        {u"0|0|{}"_s, u"00:00:05,000|00:00:04,000|a"_s, u"00:00:06,000|00:00:07,000|a|b"_s});
-    grid.setCurrent(1, 3);
-    fixture.go();
-    EXPECT_EQ(fixture.below(u"sum_node 1"_s),
-              "Line 0002\n  End.Time < Start.Time. Diff = -1:59:55,000");
-    EXPECT_EQ(place(), "1,3");
-}
-
-TEST_F(DiagnoseTest, OldColoursStay)
+TEST_F(DiagnoseTest, TheCurrentLinesFindingIsShownAtOnceAndOldColoursStay)
 {
     fixture.switchOn({CheckEmpty});
     fixture.fill({u"00:00:01,000|00:00:02,000"_s, u"00:00:03,000|00:00:04,000"_s});
+    grid.setCurrent(1, 3);
+    EXPECT_FALSE(document.editor.errExp.isVisible());
     fixture.go();
+    EXPECT_TRUE(document.editor.errExp.isVisible());
+    EXPECT_EQ(document.editor.lblErrExp.caption(), u"Complete line is empty"_s);
     grid.setText(1, 3, u"text"_s);
     fixture.go();
     EXPECT_EQ(fixture.colours(), "1,3=FF8000 2,3=FF8000");
@@ -328,17 +293,6 @@ TEST_F(DiagnoseTest, RunIsShownOnce)
     fixture.go();
     EXPECT_EQ(heard, (QStringList{u"rows"_s, u"tree"_s}));
     EXPECT_EQ(document.subtitleCount(), 2);
-}
-
-TEST_F(DiagnoseTest, FindingOfTheFirstLineIsShownAtOnce)
-{
-    fixture.switchOn({CheckEmpty});
-    fixture.fill({u"00:00:01,000|00:00:02,000"_s});
-    grid.setCurrent(1, 3);
-    EXPECT_FALSE(document.editor.errExp.isVisible());
-    fixture.go();
-    EXPECT_TRUE(document.editor.errExp.isVisible());
-    EXPECT_EQ(document.editor.lblErrExp.caption(), u"Complete line is empty"_s);
 }
 
 } // namespace

@@ -51,15 +51,7 @@ TEST_P(DiagnoseFindings, AreToldMarkedAndRepaired)
     EXPECT_TRUE(fixture.document.subtitleChanged) << "no repair of a cell touches it";
 }
 
-const std::vector<Case> timeCases{
-    {"nothing",
-     {u"00:00:00,000|00:00:02,000|a"_s, u"00:00:02,000|00:00:02,000|b"_s},
-     {CheckEmpty, CheckOverlapping, CheckInvalid, CheckNegative},
-     "",
-     "",
-     "",
-     "",
-     "00:00:00,000|00:00:02,000|a\n00:00:02,000|00:00:02,000|b"},
+const std::vector<Case> cases{
     {"overlap",
      {u"00:00:10,000|00:00:15,000|a"_s, u"00:00:14,500|00:00:16,000|b"_s},
      {CheckOverlapping},
@@ -76,14 +68,6 @@ const std::vector<Case> timeCases{
      "",
      "",
      "00:00:10,000|00:00:14,500|a\n00:00:14,500|00:00:16,000|b"},
-    {"overlapUnchecked",
-     {u"00:00:10,000|00:00:15,000|a"_s, u"00:00:14,500|00:00:16,000|b"_s},
-     {CheckNegative, CheckInvalid, RepairOverlapping},
-     "",
-     "",
-     "",
-     "",
-     "00:00:10,000|00:00:15,000|a\n00:00:14,500|00:00:16,000|b"},
     {"twoOverlapsInARow",
      {u"00:00:01,000|00:00:05,000|a"_s, u"00:00:04,000|00:00:08,000|b"_s,
       u"00:00:06,000|00:00:09,000|c"_s},
@@ -96,23 +80,6 @@ const std::vector<Case> timeCases{
      "2: End.Time 0002 > Start.Time 0003. Diff = 00:00:02,000",
      "1,2=FF8000 2,2=FF8000",
      "00:00:01,000|00:00:05,000|a\n00:00:04,000|00:00:08,000|b\n00:00:06,000|00:00:09,000|c"},
-    // The difference is that to the line above.
-    {"negative",
-     {u"00:00:05,000|00:00:04,000|a"_s},
-     {CheckNegative},
-     "Line 0001\n  End.Time < Start.Time. Diff = -1:59:55,000",
-     "Line 0001\n  Mark [Repair.Invalid] to repair",
-     "1: End.Time < Start.Time. Diff = -1:59:55,000",
-     "1,2=FF8000",
-     "00:00:05,000|00:00:04,000|a"},
-    {"negativeRepaired",
-     {u"00:00:05,000|00:00:04,000|a"_s},
-     {CheckNegative, RepairInvalid},
-     "Line 0001\n  End.Time < Start.Time. Diff = -1:59:55,000",
-     "Line 0001\n  00:00:04,000 set to 00:00:05,000",
-     "",
-     "",
-     "00:00:05,000|00:00:05,000|a"},
     // The second finding falls under the line of the first.
     {"overlapAndNegative",
      {u"00:00:01,000|00:00:09,000|a"_s, u"00:00:05,000|00:00:04,000|b"_s},
@@ -124,14 +91,6 @@ const std::vector<Case> timeCases{
      "2: End.Time < Start.Time. Diff = 00:00:04,000",
      "1,2=FF8000 2,2=FF8000",
      "00:00:01,000|00:00:09,000|a\n00:00:05,000|00:00:04,000|b"},
-    {"invalidStart",
-     {u"-1:59:59,000|00:00:02,000|a"_s},
-     {CheckInvalid},
-     "Line 0001\n  Start.Time < 0 or invalid",
-     "Line 0001\n  Mark [Repair.Invalid] to repair",
-     "1: Start.Time < 0 or invalid",
-     "1,1=FF8000",
-     "-1:59:59,000|00:00:02,000|a"},
     {"invalidEnd",
      {u"00:00:00,000|-1:59:59,000|a"_s},
      {CheckInvalid},
@@ -158,28 +117,6 @@ const std::vector<Case> timeCases{
      "",
      "",
      "00:00:01,000|00:00:01,000|a"},
-    // The overlap's repair doesn't reach the next line's check of the end above.
-    {"repairReachesTheNextLineAlone",
-     {u"00:00:01,000|00:00:05,000|a"_s, u"00:00:04,000|00:00:03,000|b"_s,
-      u"00:00:03,500|00:00:06,000|c"_s},
-     {CheckOverlapping, CheckNegative, RepairInvalid},
-     "Line 0002\n  End.Time 0001 > Start.Time 0002. Diff = 00:00:01,000\n"
-     "  End.Time < Start.Time. Diff = 00:00:01,000\n"
-     "Line 0003\n  End.Time 0002 > Start.Time 0003. Diff = 00:00:00,500",
-     "Line 0002\n  Mark [Repair.Overlapping] to repair\n  00:00:03,000 set to 00:00:04,000\n"
-     "Line 0003\n  Mark [Repair.Overlapping] to repair",
-     "1: End.Time 0001 > Start.Time 0002. Diff = 00:00:01,000\n"
-     "2: End.Time 0002 > Start.Time 0003. Diff = 00:00:00,500",
-     "1,2=FF8000 2,2=FF8000",
-     "00:00:01,000|00:00:05,000|a\n00:00:04,000|00:00:04,000|b\n00:00:03,500|00:00:06,000|c"},
-    {"noTimeIsZero",
-     {u"abc|abc|a"_s},
-     {CheckOverlapping, CheckInvalid, CheckNegative},
-     "",
-     "",
-     "",
-     "",
-     "abc|abc|a"},
     // Nothing stands ahead of the first line that could be repaired.
     {"firstLineBeforeZero",
      {u"-1:59:59,000|00:00:02,000|a"_s},
@@ -189,18 +126,6 @@ const std::vector<Case> timeCases{
      "0: End.Time 0000 > Start.Time 0001. Diff = 00:00:01,000",
      "0,2=FF8000",
      "-1:59:59,000|00:00:02,000|a"},
-    // One second before zero is behind two of them.
-    {"negativeStartUnchecked",
-     {u"-1:59:59,000|-1:59:58,000|a"_s},
-     {CheckNegative},
-     "Line 0001\n  End.Time < Start.Time. Diff = 00:00:01,000",
-     "Line 0001\n  Mark [Repair.Invalid] to repair",
-     "1: End.Time < Start.Time. Diff = 00:00:01,000",
-     "1,2=FF8000",
-     "-1:59:59,000|-1:59:58,000|a"},
-};
-
-const std::vector<Case> textCases{
     {"empty",
      {u"00:00:01,000|00:00:02,000| | "_s},
      {CheckEmpty},
@@ -209,22 +134,6 @@ const std::vector<Case> textCases{
      "1: Complete line is empty",
      "1,3=FF8000",
      "00:00:01,000|00:00:02,000||"},
-    {"secondAlone",
-     {u"1|2||b"_s},
-     {CheckEmpty},
-     "Line 0001\n  Cel [1,3] is empty while cel [1,4] contains data",
-     "Line 0001\n  Put spoken text in cel [1,3] or mark [Repair.Empty]",
-     "1: Cel [1,3] is empty while cel [1,4] contains data",
-     "1,3=FF8000",
-     "1|2|b"},
-    {"secondAloneRepaired",
-     {u"1|2||b"_s},
-     {CheckEmpty, RepairEmpty},
-     "Line 0001\n  Cel [1,3] is empty while cel [1,4] contains data",
-     "Line 0001\n  Data moved from cel [1,4] to cel [1,3]",
-     "",
-     "",
-     "1|2|b"},
     {"secondAndThirdRepaired",
      {u"1|2||b|c"_s},
      {CheckEmpty, RepairEmpty},
@@ -233,14 +142,6 @@ const std::vector<Case> textCases{
      "",
      "",
      "1|2|b|c"},
-    {"thirdAlone",
-     {u"1|2|||c"_s},
-     {CheckEmpty},
-     "Line 0001\n  Cel [1,3] is empty while cel [1,5] contains data",
-     "Line 0001\n  Put spoken text in cel [1,3] or mark [Repair.Empty]",
-     "1: Cel [1,3] is empty while cel [1,5] contains data",
-     "1,3=FF8000",
-     "1|2|c"},
     {"thirdBelowAnEmptyLine",
      {u"1|2|a||c"_s},
      {CheckEmpty},
@@ -249,54 +150,18 @@ const std::vector<Case> textCases{
      "1: Cel [1,4] is empty while cel [1,5] contains data",
      "1,4=FF8000",
      "1|2|a|c"},
-    {"uncheckedTexts", {u"1|2|||c"_s}, {CheckNegative, RepairEmpty}, "", "", "", "", "1|2|c"},
 };
 
-std::string nameOf(const testing::TestParamInfo<Case> &info)
-{
-    return info.param.name;
-}
+INSTANTIATE_TEST_SUITE_P(Cases, DiagnoseFindings, testing::ValuesIn(cases),
+                         [](const auto &one) { return one.param.name; });
 
-INSTANTIATE_TEST_SUITE_P(Times, DiagnoseFindings, testing::ValuesIn(timeCases), nameOf);
-INSTANTIATE_TEST_SUITE_P(Texts, DiagnoseFindings, testing::ValuesIn(textCases), nameOf);
-
-class DiagnoseTexts : public testing::Test
+TEST(DiagnoseTexts, SavedEmptyLineIsAskedOfTheCurrentCell)
 {
-protected:
     DiagnoseFixture fixture;
-    Grid &grid = fixture.grid;
-};
-
-TEST_F(DiagnoseTexts, RepairMovesEachTextToItsCell)
-{
-    const struct
-    {
-        QString before, after;
-    } rows[] = {
-        {u"|b| "_s, u"b|| "_s},
-        {u"|b |c"_s, u"b |c|"_s},
-        // The text goes to the first cell, and no case looks at the line again.
-        {u"||c"_s, u"c||"_s},
-        {u" | | c"_s, u" c| |"_s},
-        {u"a||c"_s, u"a|c|"_s},
-    };
-    fixture.switchOn({CheckEmpty, RepairEmpty});
-    for (const auto &[before, after] : rows) {
-        fixture.fill({u"00:00:01,000|00:00:02,000|"_s + before});
-        fixture.go();
-        EXPECT_EQ(grid.allRows().at(1).sliced(FirstTextColumn).join(u'|'), after)
-            << before.toStdString();
-        EXPECT_EQ(fixture.document.errorCount, 0);
-        EXPECT_TRUE(fixture.document.fileChanged());
-    }
-}
-
-TEST_F(DiagnoseTexts, SavedEmptyLineIsAskedOfTheCurrentCell)
-{
     fixture.switchOn({CheckEmpty, RepairEmpty});
     // Only a line with a first and a second text is asked.
     fixture.fill({u"1|2|{}"_s, u"1|2|a"_s, u"1|2|a|b"_s, u"1|2|a|b|c"_s});
-    grid.setCurrent(1, 3);
+    fixture.grid.setCurrent(1, 3);
     fixture.go();
     EXPECT_EQ(fixture.below(u"sum_node 1"_s),
               "Line 0003\n  Saved Empty line\nLine 0004\n  Saved Empty line");
@@ -305,7 +170,7 @@ TEST_F(DiagnoseTexts, SavedEmptyLineIsAskedOfTheCurrentCell)
     EXPECT_EQ(fixture.errors(), "");
     EXPECT_EQ(fixture.colours(), "");
     EXPECT_EQ(fixture.document.errorCount, 2);
-    grid.setCurrent(1, 1);
+    fixture.grid.setCurrent(1, 1);
     fixture.go();
     EXPECT_EQ(fixture.document.errorCount, 0);
 }
