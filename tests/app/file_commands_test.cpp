@@ -36,22 +36,26 @@ TEST(NewFile, MakesOneEmptyLineInTheFormatOfTheParts)
 {
     TestProgram run;
     run.start();
+    const std::initializer_list<const Control *> waiting{
+        &run->menu.mnuAddFile, &run->menu.mnuSavesubfile, &run->menu.mnuSearch,
+        &run->menu.mnuReplace, &run->menu.mnuSearchAgain, &run->menu.mnuGotoLine,
+        &run->editor.SSTab2,   &run->editor.btnNode[0],   &run->editor.Label74,
+        &run->editor.Label75,  &run->player.Command49[0], &run->player.Command49[1],
+    };
+    for (const Control *control : waiting) {
+        EXPECT_FALSE(control->isEnabled()) << qPrintable(control->name());
+    }
     run->formats.combo3.setSelected(SubRip - 1);
     run->menu.mnuNewFile.click();
+    for (const Control *control : waiting) {
+        EXPECT_TRUE(control->isEnabled()) << qPrintable(control->name());
+    }
+    EXPECT_FALSE(run->menu.mnuReopen.isEnabled()) << "there is no file to read again";
     EXPECT_EQ(run->document.subFileName, run.appPath(u"Data/Files/Noname.srt"_s));
     EXPECT_EQ(run->document.subBaseName, u"Noname"_s);
     EXPECT_EQ(run->editor.grdSubEdit.rows(), 3);
     EXPECT_EQ(run->status.StatusBar1.panel(2), u"SubRip"_s);
     EXPECT_EQ(run->status.lblEncoding.caption(), u"UTF-8"_s);
-    EXPECT_TRUE(run->menu.mnuSavesubfile.isEnabled());
-    EXPECT_TRUE(run->editor.SSTab2.isEnabled());
-    EXPECT_FALSE(run->menu.mnuReopen.isEnabled()) << "there is no file to read again";
-    for (const Control *control : std::initializer_list<const Control *>{
-             &run->editor.btnNode[0], &run->editor.Label74, &run->editor.Label75,
-             &run->player.Command49[0], &run->player.Command49[1]})
-    {
-        EXPECT_TRUE(control->isEnabled()) << qPrintable(control->name());
-    }
     EXPECT_EQ(run->trace.lastActionCode, 101);
     EXPECT_FALSE(run->document.fileChanged());
 }
@@ -229,18 +233,7 @@ TEST_F(LoadedFile, SaveThatWroteNothingChangesNothing)
     }
 }
 
-TEST_F(LoadedFile, SaveUnderNoFormatIsRefused)
-{
-    for (const int filter : {0, 17, 20}) {
-        run.doors.files.choose(run.path(u"out.srt"_s), filter);
-        run->menu.mnuSavesubfile.click();
-        EXPECT_EQ(run.doors.files.shown.constLast().firstOtherFilter, 17);
-        EXPECT_EQ(run.takeMessages().size(), 1);
-        EXPECT_TRUE(TestProgram::read(run.path(u"out.srt"_s)).isNull());
-    }
-}
-
-TEST_F(LoadedFile, SaveWindowStartsWithAFormat)
+TEST_F(LoadedFile, SaveWindowStartsWithAFormatAndTakesNothingElse)
 {
     struct Case
     {
@@ -248,18 +241,25 @@ TEST_F(LoadedFile, SaveWindowStartsWithAFormat)
         int left; ///< the filter that the last command left behind
         bool sameFormat;
         int shown;
+        int chosen;
     };
+    const QString out = run.path(u"out.srt"_s);
     for (const Case &given :
-         {Case{"another format", SubViewer1, false, SubViewer1},
-          Case{"the setting wants the document's", SubViewer1, true, SubRip},
-          Case{"supported files", 0, false, SubRip}, Case{"movies", 18, false, SubRip}})
+         {Case{"another format", SubViewer1, false, SubViewer1, 0},
+          Case{"the setting wants the document's", SubViewer1, true, SubRip, 17},
+          Case{"supported files", 0, false, SubRip, 20}, Case{"movies", 18, false, SubRip, 17}})
     {
         SCOPED_TRACE(given.name);
         run->fileCommands.window.List3.setSelected(given.left);
         run->settings.Check4.setOn(given.sameFormat);
+        run.doors.files.choose(out, given.chosen);
         run->menu.mnuSavesubfile.click();
-        EXPECT_EQ(run.doors.files.shown.constLast().filterIndex, given.shown);
-        EXPECT_EQ(run.doors.files.shown.constLast().name, u"film.srt"_s);
+        const FileRequest &request = run.doors.files.shown.constLast();
+        EXPECT_EQ(request.filterIndex, given.shown);
+        EXPECT_EQ(request.firstOtherFilter, 17);
+        EXPECT_EQ(request.name, QFileInfo(file).fileName());
+        EXPECT_EQ(run.takeMessages().size(), 1);
+        EXPECT_TRUE(TestProgram::read(out).isNull());
     }
 }
 
@@ -287,13 +287,20 @@ TEST_F(LoadedFile, SaveAsMediaNameTakesTheMoviesName)
     EXPECT_EQ(run->document.subFileName, run.path(u"movie.srt"_s));
 }
 
-TEST_F(LoadedFile, SaveAtOnceNeedsTheSameFileAndFormat)
+TEST(SaveAtOnce, NeedsTheSameFileAndFormat)
 {
-    edit();
+    TestProgram run;
+    // The extension isn't the format's, and stays.
+    const QString file = run.write(u"film.txt"_s, twoSubtitles());
+    run.start(file);
+    EXPECT_EQ(run->document.curFormatId, SubRip);
+    run->editor.grdSubEdit.setText(1, FirstTextColumn, u" Edited"_s);
+    run->document.markEdited();
     run->document.errorCount = 1;
     run->history.List1.addItem(u"a line"_s);
     run->menu.mnuSave.click();
-    EXPECT_TRUE(TestProgram::read(file).contains(u"Edited"_s));
+    EXPECT_TRUE(TestProgram::read(file).startsWith(u"1\n00:00:01,000 --> 00:00:02,500\nEdited"_s));
+    EXPECT_FALSE(QFileInfo::exists(run.path(u"film.srt"_s)));
     EXPECT_EQ(run.takeMessages(), QStringList());
     EXPECT_TRUE(run.doors.files.shown.isEmpty());
     EXPECT_FALSE(run->document.fileChanged());
@@ -305,19 +312,6 @@ TEST_F(LoadedFile, SaveAtOnceNeedsTheSameFileAndFormat)
     run->document.savedPath.clear();
     run->menu.mnuSave.click();
     EXPECT_EQ(run.doors.files.shown.size(), 1);
-}
-
-TEST(SaveAtOnce, KeepsAnExtensionThatIsNotTheFormats)
-{
-    TestProgram run;
-    const QString file = run.write(u"film.txt"_s, twoSubtitles());
-    run.start(file);
-    EXPECT_EQ(run->document.curFormatId, SubRip);
-    run->document.markEdited();
-    run->menu.mnuSave.click();
-    EXPECT_FALSE(run->document.fileChanged());
-    EXPECT_TRUE(TestProgram::read(file).startsWith(u"1\n00:00:01,000"_s));
-    EXPECT_FALSE(QFileInfo::exists(run.path(u"film.srt"_s)));
 }
 
 TEST_F(LoadedFile, SaveThatEndsEarlyStaysChanged)

@@ -14,10 +14,12 @@ TEST(GotoWindow, LeadsToALineThatIsThere)
         QStringView typed;
         int row; ///< where the current cell comes to stand
         bool refused;
+        bool cancel = false;
     };
-    static constexpr Case cases[] = {{u"2", 2, false},   {u" 1 ", 1, false},       {u"0", 2, true},
-                                     {u"3", 2, true},    {u"-1", 2, true},         {u"", 2, true},
-                                     {u"line", 2, true}, {u"99999999999", 2, true}};
+    static constexpr Case cases[] = {
+        {u"2", 2, false},   {u" 1 ", 1, false},        {u"0", 2, true},
+        {u"3", 2, true},    {u"-1", 2, true},          {u"", 2, true},
+        {u"line", 2, true}, {u"99999999999", 2, true}, {u"1", 2, false, true}};
     TestProgram run;
     run.start(run.write(u"film.srt"_s, twoSubtitles()));
     Grid &grid = run->editor.grdSubEdit;
@@ -27,7 +29,7 @@ TEST(GotoWindow, LeadsToALineThatIsThere)
         run.doors.forms.during = [&](Form &form) {
             EXPECT_EQ(run->goTo.txtLine.text(), u"2"_s) << "the current line stands in it";
             run->goTo.txtLine.type(c.typed.toString());
-            run->goTo.cmdOk.click();
+            (c.cancel ? run->goTo.cmdCancel : run->goTo.cmdOk).click();
             open = form.isOpen();
         };
         run->menu.mnuGotoLine.click();
@@ -35,23 +37,9 @@ TEST(GotoWindow, LeadsToALineThatIsThere)
         EXPECT_EQ(grid.col(), 4) << "the column stays";
         EXPECT_EQ(open, c.refused) << "a window that refuses stays open";
         EXPECT_EQ(run.takeMessages().size(), c.refused ? 1 : 0);
-        EXPECT_EQ(grid.topRow(), c.refused ? grid.topRow() : c.row);
+        EXPECT_TRUE(c.refused || c.cancel || grid.topRow() == c.row);
     }
     EXPECT_FALSE(run->document.fileChanged());
-}
-
-TEST(GotoWindow, CancelStays)
-{
-    TestProgram run;
-    run.start(run.write(u"film.srt"_s, twoSubtitles()));
-    run->editor.grdSubEdit.setCurrent(2, 3);
-    run.doors.forms.during = [&](Form &form) {
-        run->goTo.txtLine.type(u"1"_s);
-        run->goTo.cmdCancel.click();
-        EXPECT_FALSE(form.isOpen());
-    };
-    run->menu.mnuGotoLine.click();
-    EXPECT_EQ(run->editor.grdSubEdit.row(), 2);
 }
 
 } // namespace

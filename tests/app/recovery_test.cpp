@@ -34,6 +34,15 @@ protected:
         run->recovery.finishWriting();
     }
 
+    /// Kills the program; the next one gets that answer to an offer.
+    void startAgain(Answer answer, const QString &file = {})
+    {
+        run.takeMessages();
+        run.restart();
+        run.doors.messages.answer(answer);
+        run.start(file);
+    }
+
     QStringList files()
     {
         return QDir(run.appPath(u"System/Recovery"_s)).entryList({u"*.rec*"_s}, QDir::Files);
@@ -54,10 +63,8 @@ TEST_F(RecoveryTest, WhatAKilledProgramHadComesBackWhole)
     const QString file = run->document.subFileName;
     const QStringList rows = run.rows();
     const QStringList fonts = run->editor.lstFont.items();
-    run.restart();
 
-    run.doors.messages.answer(Answer::Yes);
-    run.start();
+    startAgain(Answer::Yes);
     const SubtitleDocument &document = run->document;
     EXPECT_EQ(run.rows(), rows);
     EXPECT_EQ(run->editor.lstFont.items(), fonts);
@@ -80,10 +87,7 @@ TEST_F(RecoveryTest, WhatAKilledProgramHadComesBackWhole)
 
     // It is still kept until it is saved, without a further change.
     EXPECT_EQ(files().size(), 1);
-    EXPECT_EQ(run.takeMessages().size(), 1);
-    run.restart();
-    run.doors.messages.answer(Answer::Yes);
-    run.start();
+    startAgain(Answer::Yes);
     EXPECT_EQ(run.rows(), rows);
 }
 
@@ -93,9 +97,7 @@ TEST_F(RecoveryTest, ADocumentWithoutAFileComesBackToo)
     run->menu.mnuNewFile.click();
     change(u"first words"_s);
     tick();
-    run.restart();
-    run.doors.messages.answer(Answer::Yes);
-    run.start();
+    startAgain(Answer::Yes);
     EXPECT_EQ(run.rows(), QStringList{u"||first words "_s});
     EXPECT_TRUE(run->document.savedPath.isEmpty());
     EXPECT_EQ(run->navigation.Combo13.count(), 0);
@@ -105,22 +107,22 @@ TEST_F(RecoveryTest, NoForgetsAndCancelAsksAgain)
 {
     work();
     tick();
-    run.restart();
-    run.doors.messages.answer(Answer::Cancel);
-    run.start();
-    EXPECT_EQ(run.takeMessages().size(), 1);
-    EXPECT_EQ(files(), QStringList{u"1.rec"_s});
-    run.restart();
-    run.doors.messages.answer(Answer::No);
-    run.start();
-    EXPECT_EQ(run.takeMessages().size(), 1);
-    EXPECT_TRUE(files().isEmpty());
-    EXPECT_TRUE(run->document.subFileName.isEmpty());
+    for (const Answer answer : {Answer::Cancel, Answer::No}) {
+        startAgain(answer);
+        EXPECT_EQ(run.takeMessages().size(), 1);
+        EXPECT_EQ(files().isEmpty(), answer == Answer::No);
+        EXPECT_TRUE(run->document.subFileName.isEmpty());
+    }
 }
 
 TEST_F(RecoveryTest, NothingIsLeftBehindASaveAnExitOrAnotherFile)
 {
     work();
+    tick();
+    ASSERT_TRUE(QFile::remove(run.appPath(u"System/Recovery/1.rec"_s)));
+    tick();
+    EXPECT_TRUE(files().isEmpty()) << "a tick without a change writes nothing";
+    change(u"more"_s);
     tick();
     EXPECT_EQ(files().size(), 1);
     run->menu.mnuSave.click();
@@ -142,18 +144,6 @@ TEST_F(RecoveryTest, NothingIsLeftBehindASaveAnExitOrAnotherFile)
     run.doors.messages.answer(Answer::No);
     EXPECT_TRUE(run->exit());
     EXPECT_TRUE(QDir(run.appPath(u"System/Recovery"_s)).isEmpty());
-}
-
-TEST_F(RecoveryTest, ATickWithoutAChangeWritesNothing)
-{
-    work();
-    tick();
-    QFile::remove(run.appPath(u"System/Recovery/1.rec"_s));
-    tick();
-    EXPECT_TRUE(files().isEmpty());
-    change(u"more"_s);
-    tick();
-    EXPECT_EQ(files().size(), 1);
 }
 
 TEST_F(RecoveryTest, AProgramThatRunsKeepsItsOwn)
@@ -186,9 +176,7 @@ TEST_F(RecoveryTest, AFileNamedAtTheStartIsOfferedItsOwnChangesAlone)
         run.start(other);
         EXPECT_EQ(run.takeMessages().size(), gone ? 1 : 0) << "there is nothing to load";
         EXPECT_EQ(run->document.subFileName, gone ? QString() : other);
-        run.restart();
-        run.doors.messages.answer(Answer::Yes);
-        run.start(file);
+        startAgain(Answer::Yes, file);
         EXPECT_EQ(run->editor.grdSubEdit.text(1, FirstTextColumn), u"changed "_s);
         run.takeMessages();
     }
@@ -208,9 +196,7 @@ TEST_F(RecoveryTest, AFileThatWasWrittenSinceIsNotReplacedUnasked)
                          QFileDevice::FileModificationTime);
         file.close();
         ASSERT_TRUE(source != Source::Gone || file.remove());
-        run.restart();
-        run.doors.messages.answer(Answer::Yes);
-        run.start();
+        startAgain(Answer::Yes);
         const bool asks = source == Source::Written;
         EXPECT_EQ(run.takeMessages().constFirst().contains(u"once more"_s), asks);
         run->menu.mnuSave.click();

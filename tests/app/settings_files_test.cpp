@@ -7,7 +7,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-TEST(SettingsFile, EveryLineHasItsControl)
+TEST(SettingsFile, EveryLineHasItsControlBothWays)
 {
     struct Case
     {
@@ -21,7 +21,8 @@ TEST(SettingsFile, EveryLineHasItsControl)
           Case{19, u"Check2"}, Case{21, u"Check3"}, Case{22, u"Check4"}})
     {
         TestProgram run;
-        run.writeApp(u"System/Settings/set.sdf"_s, settingsWith(given.line, 1));
+        const QString file =
+            run.writeApp(u"System/Settings/set.sdf"_s, settingsWith(given.line, 1));
         run->settingsFiles.LoadSettingsFile();
         QStringList on;
         for (Control *control : run->frmSettings.controls()) {
@@ -31,6 +32,11 @@ TEST(SettingsFile, EveryLineHasItsControl)
             }
         }
         EXPECT_EQ(on, QStringList(QString::fromUtf16(given.box)));
+        EXPECT_TRUE(run->settingsFiles.writeOptions().ok());
+        const QStringList lines = TestProgram::read(file).split(u'\n');
+        EXPECT_EQ(lines.indexOf(u" 1 "_s), given.line - 1);
+        EXPECT_EQ(lines.count(u" 0 "_s), 19);
+        EXPECT_EQ(lines.size(), 23);
     }
 }
 

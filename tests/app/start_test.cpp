@@ -42,12 +42,13 @@ TEST(Start, ClickLeavesTheSplashAndTipsFollowTheSetting)
     TestProgram run;
     run.start();
     run->settings.Check7[SettingsPage::ShowTips].setOn(false);
-    run->splash.lblBuild.click();
-    EXPECT_TRUE(run->frmMain.isOpen());
-    EXPECT_FALSE(run->frmTip.isOpen());
-    EXPECT_FALSE(run->splash.Timer2.isOn());
-    run->splash.lblBuild.click();
-    EXPECT_EQ(run.doors.help.opened.size(), 1);
+    for (int click = 0; click < 2; ++click) {
+        run->splash.lblBuild.click();
+        EXPECT_TRUE(run->frmMain.isOpen());
+        EXPECT_FALSE(run->frmTip.isOpen());
+        EXPECT_FALSE(run->splash.Timer2.isOn());
+        EXPECT_EQ(run.doors.help.opened.size(), 1);
+    }
 }
 
 TEST(Start, NamedFileIsLoadedOnceWithoutSplash)
@@ -83,16 +84,6 @@ TEST(Start, FileThatIsNotThereIsTold)
     EXPECT_TRUE(run->frmMain.isOpen());
     EXPECT_EQ(run.takeMessages().size(), 1);
     EXPECT_EQ(run->document.subtitleCount(), 0);
-    const Button *const waiting[] = {&run->menu.mnuAddFile, &run->menu.mnuSearch,
-                                     &run->menu.mnuReplace, &run->menu.mnuSearchAgain,
-                                     &run->menu.mnuGotoLine};
-    for (const Button *entry : waiting) {
-        EXPECT_FALSE(entry->isEnabled()) << entry->name().toStdString();
-    }
-    run->menu.mnuNewFile.click();
-    for (const Button *entry : waiting) {
-        EXPECT_TRUE(entry->isEnabled()) << entry->name().toStdString();
-    }
 }
 
 TEST(Start, LastFilesAreLoadedWhenTheSettingSaysSo)

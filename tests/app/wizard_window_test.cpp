@@ -44,6 +44,7 @@ TEST(Wizard, AtTheStartItExcludesTheTips)
     EXPECT_TRUE(run->frmWizard.isOpen());
     EXPECT_FALSE(run->frmTip.isOpen());
     CheckBox &wizardBox = run->wizard.chkLoadWizardAtStartup;
+    CheckBox &tipsBox = run->tips.chkLoadTipsAtStartup;
     EXPECT_TRUE(wizardBox.isOn());
 
     CheckBox &tips = run->settings.Check7[SettingsPage::ShowTips];
@@ -55,10 +56,13 @@ TEST(Wizard, AtTheStartItExcludesTheTips)
     wizardBox.check(true);
     EXPECT_TRUE(wizard.isOn());
     EXPECT_FALSE(tips.isOn());
-    EXPECT_FALSE(run->tips.chkLoadTipsAtStartup.isOn());
-    run->tips.chkLoadTipsAtStartup.check(true);
+    EXPECT_FALSE(tipsBox.isOn());
+    tipsBox.check(true);
+    EXPECT_TRUE(tips.isOn());
     EXPECT_FALSE(wizard.isOn());
     EXPECT_FALSE(wizardBox.isOn());
+    tipsBox.check(false);
+    EXPECT_FALSE(tips.isOn());
 }
 
 } // namespace
