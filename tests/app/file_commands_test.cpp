@@ -129,19 +129,6 @@ TEST_F(LoadedFile, LoadStopsWhenTheSaveItAskedForWroteNothing)
     EXPECT_TRUE(TestProgram::read(run.path(u"saved.srt"_s)).contains(u"Edited"_s));
 }
 
-TEST_F(LoadedFile, DropAsksLikeALoadAndShowsNoFileWindow)
-{
-    const QString other = run.write(u"other.srt"_s, oneSubtitle);
-    edit();
-    run->dropFile(other);
-    EXPECT_EQ(run->document.subFileName, file) << "the safest answer keeps the document";
-    run.doors.messages.answer(Answer::No);
-    run->dropFile(other);
-    EXPECT_EQ(run->document.subFileName, other);
-    EXPECT_TRUE(run.doors.files.shown.isEmpty());
-    EXPECT_EQ(run->trace.lastActionCode, 102);
-}
-
 TEST_F(LoadedFile, MovieWithoutPlayerLeavesTheDocumentAlone)
 {
     run.doors.player.missing = u"No player is built in yet."_s;
@@ -343,8 +330,7 @@ TEST_F(LoadedFile, SaveSettingsAsksForANameAndWritesNothing)
     const FileRequest &request = run.doors.files.shown.constFirst();
     EXPECT_EQ(request.filterIndex, 17);
     EXPECT_EQ(request.name, QString());
-    EXPECT_TRUE(request.nameEnabled);
-    EXPECT_TRUE(request.offersMediaName);
+    EXPECT_TRUE(request.nameEnabled && request.offersMediaName);
     EXPECT_FALSE(QFileInfo::exists(run.path(u"a.scd"_s)));
     EXPECT_EQ(run->trace.lastActionCode, 105);
 }

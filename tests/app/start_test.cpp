@@ -214,51 +214,6 @@ TEST(Start, FolderThatCannotBeMadeIsTold)
     EXPECT_TRUE(run->frmSplash.isOpen());
 }
 
-TEST(Exit, AsksUntilTheSaveSucceedsOrTheAnswerIsNo)
-{
-    struct Case
-    {
-        const char *name;
-        QList<Answer> answers; ///< to the question about the changes
-        QStringList files;     ///< replies of the file window, empty for Cancel
-        int questions;
-        bool saved;
-    };
-    for (const Case &given :
-         {Case{"no", {Answer::No}, {}, 1, false},
-          Case{"saved", {Answer::Yes}, {u"out.srt"_s}, 1, true},
-          Case{"cancelled, then no", {Answer::Yes, Answer::No}, {QString()}, 2, false},
-          Case{"cancelled, then saved",
-               {Answer::Yes, Answer::Yes},
-               {QString(), u"out.srt"_s},
-               2,
-               true}})
-    {
-        SCOPED_TRACE(given.name);
-        TestProgram run;
-        run.start(run.write(u"a.srt"_s, twoSubtitles()));
-        run->document.setFileChanged(true);
-        for (const Answer answer : given.answers) {
-            run.doors.messages.answer(answer);
-        }
-        for (const QString &file : given.files) {
-            if (file.isEmpty()) {
-                run.doors.files.cancel();
-            } else {
-                run.doors.files.choose(run.path(file), SubRip);
-            }
-        }
-        run->menu.mnuExit.click();
-        EXPECT_TRUE(run->hasEnded());
-        EXPECT_FALSE(run->frmMain.isOpen());
-        const QStringList messages = run.takeMessages();
-        EXPECT_EQ(messages.size(), given.questions);
-        EXPECT_TRUE(messages.constFirst().startsWith(u"File "_s + run.path(u"a.srt"_s)
-                                                     + u"\nhas been changed"_s));
-        EXPECT_EQ(!TestProgram::read(run.path(u"out.srt"_s)).isNull(), given.saved);
-    }
-}
-
 TEST(Exit, WritesTheStoredFilesAndTidies)
 {
     TestProgram run;
@@ -268,12 +223,15 @@ TEST(Exit, WritesTheStoredFilesAndTidies)
     run.doors.player.file = u"/films/a.avi"_s;
     run->navigation.screenPos = {.left = -15, .top = 30, .width = 15000, .height = 10000.5};
     run.writeApp(u"Data/Temporarily/0000.shd"_s, u"x"_s);
-    EXPECT_TRUE(run->exit());
+    run->menu.mnuExit.click();
+    EXPECT_TRUE(run->hasEnded());
+    EXPECT_FALSE(run->frmMain.isOpen());
 
     const auto stored = [&](const QString &name) {
         return TestProgram::read(run.appPath(u"System/"_s + name));
     };
     EXPECT_EQ(stored(u"wizard.sdf"_s), u""_s);
+    EXPECT_FALSE(stored(u"wizard.sdf"_s).isNull());
     EXPECT_EQ(stored(u"Macro.sdf"_s), u"a person's macros\n"_s);
     EXPECT_EQ(stored(u"sr.sdf"_s), u""_s);
     EXPECT_EQ(stored(u"recent.sdf"_s), file + u'\n');
@@ -281,8 +239,6 @@ TEST(Exit, WritesTheStoredFilesAndTidies)
     EXPECT_EQ(stored(u"pos.sdf"_s), u"-15 \n 30 \n 15000 \n 10000.5 \n"_s);
     EXPECT_TRUE(TestProgram::read(run.appPath(u"System/Settings/set.sdf"_s)).isNull());
     EXPECT_TRUE(QDir(run.appPath(u"Data/Temporarily"_s)).isEmpty());
-    EXPECT_FALSE(stored(u"wizard.sdf"_s).isNull());
-    EXPECT_FALSE(stored(u"sr.sdf"_s).isNull());
 }
 
 TEST(Exit, OfTwoProgramsOnlyTheOneThatChangedTheRecentListWritesIt)
