@@ -4,6 +4,8 @@
 
 namespace kavro {
 
+using namespace Qt::StringLiterals;
+
 void TextBox::setText(const QString &text)
 {
     if (m_text == text) {
@@ -40,7 +42,9 @@ void TextBox::setSelection(qsizetype start, qsizetype length)
 
 void TextBox::type(const QString &text)
 {
-    setText(text);
+    QString line = text;
+    line.replace("\r\n"_L1, " "_L1).replace(u'\r', u' ').replace(u'\n', u' ');
+    setText(line);
     emit typed(m_text);
 }
 

@@ -25,7 +25,8 @@ public:
     void setSelection(qsizetype start, qsizetype length);
     void selectAll() { setSelection(0, m_text.size()); }
 
-    /// Act: the user replaces the text.
+    /// Act: the user replaces the text. A line break that was pasted with it becomes a blank: a
+    /// field is one line, and so is what a file makes of a cell.
     void type(const QString &text);
 
 signals:

@@ -87,8 +87,14 @@ void bind(QLineEdit &edit, TextBox &box, const QString &label)
 void bindTyping(QLineEdit &edit, TextBox &box)
 {
     new ShownText(edit, box);
-    QObject::connect(&edit, &QLineEdit::textEdited, &box,
-                     [&box](const QString &text) { box.type(text); });
+    QObject::connect(&edit, &QLineEdit::textEdited, &box, [&edit, &box](const QString &text) {
+        const qsizetype behind = text.size() - edit.cursorPosition();
+        box.type(text);
+        if (box.text() != text) {
+            edit.setText(box.text());
+            edit.setCursorPosition(static_cast<int>(box.text().size() - behind));
+        }
+    });
     QObject::connect(&box, &TextBox::selectionChanged, &edit, [&edit, &box] {
         const bool same = edit.selectionStart() == static_cast<int>(box.selStart())
                           && edit.selectionLength() == static_cast<int>(box.selLength());

@@ -93,6 +93,19 @@ TEST_F(Bind, ListenerThatCorrectsWhatIsTypedIsShown)
     EXPECT_EQ(edit->text(), u"40"_s);
 }
 
+TEST_F(Bind, PastedLinesBecomeOne)
+{
+    TextBox box(form, u"rtfEdit"_s);
+    auto *edit = new QLineEdit(&window);
+    bind(*edit, box, {});
+    box.setText(u"ad"_s);
+    edit->setCursorPosition(1);
+    edit->insert(u"b\r\nc\nc\r"_s);
+    EXPECT_EQ(box.text(), u"ab c c d"_s);
+    EXPECT_EQ(edit->text(), box.text());
+    EXPECT_EQ(edit->cursorPosition(), 7) << "where the paste ended";
+}
+
 TEST_F(Bind, SelectionGoesBothWays)
 {
     TextBox box(form, u"rtfSubEditBasic"_s);
