@@ -34,21 +34,24 @@
 
 namespace kavro::test {
 
-/// Counts the scans that others have run.
+/// Counts the scans that others have run; each may do something of its own.
 struct CountedScan : DiagnoseHost
 {
-    void GoDiagnose() override { ++runs; }
-    void diagnoseWithoutRepairs() override
-    {
-        ++quietRuns;
-        if (during) {
-            during();
-        }
-    }
+    void GoDiagnose() override { count(runs); }
+    void diagnoseWithoutRepairs() override { count(quietRuns); }
 
     std::function<void()> during;
     int runs = 0;
     int quietRuns = 0;
+
+private:
+    void count(int &scans)
+    {
+        ++scans;
+        if (during) {
+            during();
+        }
+    }
 };
 
 /// A document with its pages and scripted answers, in an application folder of its own; for tests

@@ -8,23 +8,6 @@
 
 namespace kavro::test {
 
-/// A scan that counts its runs, and may do something of its own within.
-struct CountedScan : DiagnoseHost
-{
-    void GoDiagnose() override
-    {
-        ++runs;
-        if (during) {
-            during();
-        }
-    }
-    void diagnoseWithoutRepairs() override { ++quietRuns; }
-
-    std::function<void()> during;
-    int runs = 0;
-    int quietRuns = 0;
-};
-
 class BasicEditTest : public testing::Test, public DocumentFixture
 {
 protected:
