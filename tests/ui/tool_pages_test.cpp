@@ -350,6 +350,7 @@ TEST_F(ToolPageWindow, TreeOfFortyThousandNodesShowsAtOnce)
     int lines = 0;
     {
         const TreeView::Batch batch(tvDiag);
+        tvDiag.clear();
         const int root = tvDiag.add(TreeView::noNode, u"Errors"_s, u"err"_s);
         lines = tvDiag.add(root, u"Line"_s, u"sol_line"_s);
         for (int i = 1; i <= 20000; ++i) {
