@@ -67,17 +67,12 @@ public:
         }
     }
 
-    void writeHeader(WriteFrame &frame) const override
-    {
-        for (const QStringView line : header)
-            frame.writeLine(line);
-    }
+    void writeHeader(WriteFrame &frame) const override { frame.writeLines(header); }
 
     void writeRow(WriteFrame &frame) const override
     {
         putTime(frame, frame.start());
-        for (const QStringView line : frame.lines())
-            frame.writeLine(line);
+        frame.writeLines(frame.lines());
         frame.writeLine(u"}");
         putTime(frame, frame.end());
         frame.endLine();

@@ -78,8 +78,7 @@ public:
 
     void writeHeader(WriteFrame &frame) const override
     {
-        for (const QStringView line : headerHead)
-            frame.writeLine(line);
+        frame.writeLines(headerHead);
         for (int number = 1; number <= directives; ++number)
             frame.writeLine(QString(u'#' % QString::number(number)));
     }

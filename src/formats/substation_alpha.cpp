@@ -42,11 +42,7 @@ public:
         }
     }
 
-    void writeHeader(WriteFrame &frame) const override
-    {
-        for (const QStringView line : header)
-            frame.writeLine(line);
-    }
+    void writeHeader(WriteFrame &frame) const override { frame.writeLines(header); }
 
     void writeRow(WriteFrame &frame) const override
     {

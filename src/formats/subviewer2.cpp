@@ -90,8 +90,7 @@ public:
 
     void writeHeader(WriteFrame &frame) const override
     {
-        for (const QStringView line : header)
-            frame.writeLine(line);
+        frame.writeLines(header);
         frame.put(u"[COLF]&HFFFFFF,[STYLE]no,[SIZE]29, [Font]");
         frame.writeLine(frame.selectedFont());
         frame.endLine();

@@ -75,6 +75,12 @@ void WriteFrame::writeLine(QStringView line)
     endLine();
 }
 
+void WriteFrame::writeLines(std::span<const QStringView> lines)
+{
+    for (const QStringView line : lines)
+        writeLine(line);
+}
+
 void WriteFrame::replaceHalves()
 {
     if (!m_text.isValidUtf16())

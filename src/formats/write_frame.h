@@ -49,6 +49,7 @@ public:
     void put(QStringView text) { m_text += text; }
     void endLine() { m_text += QStringView(u"\r\n"); }
     void writeLine(QStringView line);
+    void writeLines(std::span<const QStringView> lines);
     /// Puts the text lines with `separator` between them.
     void putLines(QStringView separator);
 
