@@ -4,6 +4,7 @@
 #include "core/control_window.h"
 #include "core/document.h"
 #include "core/encoding.h"
+#include "core/format_lists.h"
 #include "core/language.h"
 #include "core/messages.h"
 #include "core/player_page.h"
@@ -218,9 +219,10 @@ QString LoadRun::logHead(int item) const
 
 void LoadRun::logRead()
 {
-    m_parts.control.append(logHead(3) % u"\r\n" % m_request.path % u"\r\n" % report(4)
-                           % formatName(m_format) % u"\r\n" % report(5)
-                           % QString::number(m_count - 1) % u"\r\n");
+    // The name as the lists spell it.
+    const QString name = m_parts.lists.combo3.item(m_format - 1);
+    m_parts.control.append(logHead(3) % u"\r\n" % m_request.path % u"\r\n" % report(4) % name
+                           % u"\r\n" % report(5) % QString::number(m_count - 1) % u"\r\n");
 }
 
 void LoadRun::logEnd()

@@ -99,44 +99,6 @@ TEST(Load, ReplacesTheDocument)
     EXPECT_EQ(fixture.document.curRow, 1);
 }
 
-TEST(Load, FillsListsAndFields)
-{
-    FormatsFixture fixture;
-    fixture.load(fixture.write(u"a.srt"_s, subRip));
-    EXPECT_EQ(fixture.player.Combo1.items(),
-              (QStringList{u"00:00:01,000;  One "_s, u"00:00:03,000;  Two  lines"_s}));
-    EXPECT_EQ(fixture.times.Text1[0].text(), u"1"_s);
-    EXPECT_EQ(fixture.times.Text1[3].text(), u"2"_s);
-    EXPECT_EQ(fixture.times.rtfStretchFirst.text(), u"00:00:01,000"_s);
-    EXPECT_EQ(fixture.times.rtfStretchLast.text(), u"00:00:03,000"_s);
-    EXPECT_EQ(fixture.formats.combo3.selected(), SubRip - 1);
-    EXPECT_EQ(fixture.formats.Combo7.selected(), SubRip);
-}
-
-TEST(Load, OffersTheFontsThatTheFormatKeeps)
-{
-    struct Case
-    {
-        QString file;
-        QString text;
-        bool font;
-        bool style;
-    };
-    const Case cases[] = {{u"a.srt"_s, subRip, false, true},
-                          {u"a.sub"_s, subViewer2, true, false},
-                          {u"a.txt"_s, tmPlayer, false, false}};
-    for (const Case &c : cases) {
-        FormatsFixture fixture;
-        fixture.load(fixture.write(c.file, c.text));
-        EXPECT_EQ(fixture.fonts.Command42.isEnabled(), c.style);
-        EXPECT_EQ(fixture.fonts.Combo9[0].isAvailable(), c.font);
-        EXPECT_EQ(fixture.fonts.Combo9[1].isAvailable(), c.style);
-        const auto caption = [](bool on) { return on ? u"Supported"_s : u"Not supported"_s; };
-        EXPECT_EQ(fixture.fonts.Label48[0].caption(), caption(c.font));
-        EXPECT_EQ(fixture.fonts.Label48[1].caption(), caption(c.style));
-    }
-}
-
 TEST(Load, AddsBehindTheDocument)
 {
     FormatsFixture fixture;
@@ -293,7 +255,7 @@ TEST(Load, AsksOnAboutBadLinesUntilTheAnswerIsNo)
     EXPECT_TRUE(fixture.messageWindow.shown.isEmpty());
 }
 
-TEST(Load, WritesItsLog)
+TEST(Load, ShowsItsProgressAndItsEnd)
 {
     FormatsFixture fixture;
     fixture.settings.Check3.setOn(false);
@@ -301,11 +263,6 @@ TEST(Load, WritesItsLog)
     fixture.load(path);
     EXPECT_TRUE(fixture.frmControl.isOpen());
     EXPECT_EQ(fixture.frmControl.caption(), u"Loading file"_s);
-    EXPECT_EQ(fixture.control.Text1[0].text().toStdString(),
-              crlf("Subtitle analiser started ... \nDate: 2024-03-01, 12:30:15\nFile information:\n"
-                   + path.toStdString()
-                   + "\n  Format: SubRip\n  Lines: 2\nReading of the file has ended.\nReady.\n"
-                   + std::string(60, '-') + "\n"));
     EXPECT_EQ(fixture.control.ProgressBar1.value(), 0);
 
     fixture.load(u"/nowhere/a.srt"_s);
