@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 void ObjectOutput::write(const JsonWriter &object)
 {
-    m_out.write(object.bytes().constData(), object.bytes().size()).put('\n');
+    writeLine(m_out, object);
     m_out.flush();
 }
 

@@ -136,4 +136,9 @@ void JsonWriter::quote(QStringView text)
     m_bytes += '"';
 }
 
+void writeLine(std::ostream &stream, const JsonWriter &json)
+{
+    stream.write(json.bytes().constData(), json.bytes().size()).put('\n');
+}
+
 } // namespace kavro

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QStringView>
 
+#include <ostream>
+
 namespace kavro {
 
 /// Writes one JSON value on one line, the keys of an object in the order in which they come.
@@ -48,5 +50,8 @@ private:
     QByteArray m_bytes;
     bool m_first = true; ///< nothing stands in the innermost object or array, or a key waits
 };
+
+/// Writes the value as a line of its own.
+void writeLine(std::ostream &stream, const JsonWriter &json);
 
 } // namespace kavro

@@ -64,7 +64,7 @@ void printJson(const Program &program, std::ostream &out)
     json.number(u"errorCount", program.document.errorCount).key(u"nodes");
     writeTree(json, program.diagnose.tvDiag);
     json.endObject();
-    out.write(json.bytes().constData(), json.bytes().size()).put('\n');
+    writeLine(out, json);
 }
 
 /// Writes the document in its own format. False when it isn't whole in the file, which is told.

@@ -49,7 +49,7 @@ ExitStatus DumpVerb::execute(const QCommandLineParser &call, const Streams &stre
 
     JsonWriter json;
     writeDocument(json, *program);
-    streams.out.write(json.bytes().constData(), json.bytes().size()).put('\n');
+    writeLine(streams.out, json);
     return loaded == Batch::Loaded::Whole ? ExitStatus::Done : ExitStatus::No;
 }
 

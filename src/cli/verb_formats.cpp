@@ -34,7 +34,7 @@ void printJson(std::ostream &out)
         json.text(u"extension", format.extension).text(u"timeBase", format.timeBase).endObject();
     }
     json.endArray();
-    out << json.bytes().constData() << '\n';
+    writeLine(out, json);
 }
 
 } // namespace
