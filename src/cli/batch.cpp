@@ -1,6 +1,7 @@
 #include "cli/batch.h"
 
 #include "app/program.h"
+#include "cli/output_plan.h"
 
 #include <QFileInfo>
 
@@ -31,26 +32,6 @@ LoadResult loadFile(Program &program, const QString &path, const LoadOptions &op
     if (add)
         request.nextRow = program.editor.grdSubEdit.rows() - 1;
     return program.loader.LoadSubFile(request);
-}
-
-bool tellWrite(BatchMessages &messages, int before, const QString &path, const WriteResult &result)
-{
-    const bool told = messages.count > before;
-    if (result.kind == WriteResult::Kind::Written) {
-        for (const QString &loss : result.losses)
-            messages.tell(loss);
-        if (result.rowsLeft > 0 && !told)
-            messages.tell(u"Row %1 could not be written, with it %2 rows are missing in %3."_s
-                              .arg(result.firstRowLeft)
-                              .arg(result.rowsLeft)
-                              .arg(path));
-        return result.rowsLeft == 0;
-    }
-    if (told || result.error.isEmpty())
-        messages.tell(u"%1 was not written."_s.arg(path));
-    else
-        messages.tell(u"%1 was not written: %2."_s.arg(path, result.error));
-    return false;
 }
 
 Batch::Batch(const QString &appDir, std::optional<Answer> answer, const Streams &streams)
@@ -91,6 +72,47 @@ Batch::Loaded Batch::load(Program &program, const QString &path, const LoadOptio
     if (messages.count == before)
         messages.tell(result.error.isEmpty() ? u"No subtitle was loaded."_s : result.error);
     return Loaded::No;
+}
+
+bool Batch::mayWrite(const Output &output, bool overwrite)
+{
+    if (output.literal || overwrite || !QFileInfo::exists(output.path))
+        return true;
+    ports.messages.tell(u"%1 is there already, --overwrite replaces it."_s.arg(output.path));
+    return false;
+}
+
+bool Batch::write(Program &program, const Output &output, int format)
+{
+    const int before = ports.messages.count;
+    return tellWrite(before, output.path,
+                     program.writer.CreateSubFile({.format = format,
+                                                   .lastRow = program.document.subtitleCount(),
+                                                   .path = output.path,
+                                                   .literal = output.literal,
+                                                   .askOverwrite = false}));
+}
+
+/// @param before  count of the messages ahead of the write
+bool Batch::tellWrite(int before, const QString &path, const WriteResult &result)
+{
+    BatchMessages &messages = ports.messages;
+    const bool told = messages.count > before;
+    if (result.kind == WriteResult::Kind::Written) {
+        for (const QString &loss : result.losses)
+            messages.tell(loss);
+        if (result.rowsLeft > 0 && !told)
+            messages.tell(u"Row %1 could not be written, with it %2 rows are missing in %3."_s
+                              .arg(result.firstRowLeft)
+                              .arg(result.rowsLeft)
+                              .arg(path));
+        return result.rowsLeft == 0;
+    }
+    if (told || result.error.isEmpty())
+        messages.tell(u"%1 was not written."_s.arg(path));
+    else
+        messages.tell(u"%1 was not written: %2."_s.arg(path, result.error));
+    return false;
 }
 
 } // namespace kavro

@@ -15,6 +15,7 @@
 namespace kavro {
 
 class Program;
+struct Output;
 struct WriteResult;
 
 /// Where a verb finds the program's files and puts its own: the folder of --app-dir, else the
@@ -34,11 +35,6 @@ QList<QCommandLineOption> loadCallOptions();
 LoadResult loadFile(Program &program, const QString &path, const LoadOptions &options,
                     bool add = false);
 
-/// Tells how the write of a file ended. True when every row is in it.
-///
-/// @param before  count of the messages ahead of the write
-bool tellWrite(BatchMessages &messages, int before, const QString &path, const WriteResult &result);
-
 /// Work on one document after the other with nobody there: whatever is to be told goes to the
 /// stream for people.
 class Batch
@@ -57,8 +53,17 @@ public:
     Loaded load(Program &program, const QString &path, const LoadOptions &options,
                 bool add = false);
 
+    /// False for a file that is there and not to be replaced, which it tells.
+    bool mayWrite(const Output &output, bool overwrite);
+    /// Writes the whole document. False when a row isn't in the file; tells what was lost, or why
+    /// nothing was written.
+    bool write(Program &program, const Output &output, int format);
+
     BatchPorts ports;
     VerbFolders disk;
+
+private:
+    bool tellWrite(int before, const QString &path, const WriteResult &result);
 };
 
 } // namespace kavro

@@ -5,7 +5,6 @@
 #include "cli/output_plan.h"
 
 #include <QCommandLineParser>
-#include <QFileInfo>
 
 namespace kavro {
 
@@ -84,12 +83,9 @@ ExitStatus ConvertVerb::execute(const QCommandLineParser &call, const Streams &s
 // Each file has a program of its own, so that none sees what another one has left behind.
 bool ConvertVerb::convert(Batch &batch, const Output &output, const ConvertCall &call)
 {
-    BatchMessages &messages = batch.ports.messages;
-    messages.subject = output.input;
-    if (!output.literal && !call.overwrite && QFileInfo::exists(output.path)) {
-        messages.tell(u"%1 is there already, --overwrite replaces it."_s.arg(output.path));
+    batch.ports.messages.subject = output.input;
+    if (!batch.mayWrite(output, call.overwrite))
         return false;
-    }
     const auto program = batch.newProgram(call.load);
     const Batch::Loaded loaded = batch.load(*program, output.input, call.load);
     if (loaded == Batch::Loaded::No)
@@ -98,14 +94,7 @@ bool ConvertVerb::convert(Batch &batch, const Output &output, const ConvertCall 
         program->document.encoding = *call.encoding;
     if (!call.folder.isEmpty())
         batch.disk.store.makeFolder(absolutePath(call.folder)); // else the write tells why not
-    const int before = messages.count;
-    WriteRequest request{.format = call.format,
-                         .lastRow = program->document.subtitleCount(),
-                         .path = output.path,
-                         .literal = output.literal,
-                         .askOverwrite = false};
-    const WriteResult result = program->writer.CreateSubFile(request);
-    return tellWrite(messages, before, output.path, result) && loaded == Batch::Loaded::Whole;
+    return batch.write(*program, output, call.format) && loaded == Batch::Loaded::Whole;
 }
 
 } // namespace kavro

@@ -8,7 +8,6 @@
 #include "cli/output_plan.h"
 
 #include <QCommandLineParser>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <optional>
@@ -70,21 +69,10 @@ void printJson(const Program &program, std::ostream &out)
 /// Writes the document in its own format. False when it isn't whole in the file, which is told.
 bool write(Batch &batch, Program &program, const QString &name, bool overwrite)
 {
-    BatchMessages &messages = batch.ports.messages;
-    const SubtitleDocument &document = program.document;
-    const OutputPlan plan = OutputPlan::toFile({messages.subject}, name, document.curFormatId);
+    const int format = program.document.curFormatId;
+    const OutputPlan plan = OutputPlan::toFile({batch.ports.messages.subject}, name, format);
     const Output &output = plan.outputs().constFirst();
-    if (!output.literal && !overwrite && QFileInfo::exists(output.path)) {
-        messages.tell(u"%1 is there already, --overwrite replaces it."_s.arg(output.path));
-        return false;
-    }
-    const int before = messages.count;
-    const WriteResult result = program.writer.CreateSubFile({.format = document.curFormatId,
-                                                             .lastRow = document.subtitleCount(),
-                                                             .path = output.path,
-                                                             .literal = output.literal,
-                                                             .askOverwrite = false});
-    return tellWrite(messages, before, output.path, result);
+    return batch.mayWrite(output, overwrite) && batch.write(program, output, format);
 }
 
 } // namespace
