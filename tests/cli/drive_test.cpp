@@ -1,9 +1,4 @@
-#include "app/program.h"
-#include "cli/batch.h"
-#include "cli/drive_script.h"
 #include "tests/cli/cli_fixture.h"
-
-#include <QDirIterator>
 
 using namespace Qt::StringLiterals;
 
@@ -135,64 +130,29 @@ TEST_F(Drive, TheSameSeedGivesTheSameChoices)
     EXPECT_EQ(drive(script), drive(script));
 }
 
-/// A program whose hidden menu entry mnuSystem runs frmHelp as a modal form.
-class ModalDrive : public CliTest
+// The settings are a modal window: it stays open for the commands behind it, and the end of the
+// script, whatever it comes by, closes it.
+TEST_F(Drive, AModalWindowIsOpenUntilItIsClosed)
 {
-protected:
-    CliRun drive(const std::string &script)
+    const std::string open = "{\"window\": \"frmSettings\", \"open\": true}\n";
+    const std::string closed = "{\"window\": \"frmSettings\", \"open\": false}\n";
+    const std::string refused = "{\"refused\": \"frmSettings.Command1(0)\"}\n";
+    const struct
     {
-        std::istringstream in(script);
-        std::ostringstream out;
-        std::ostringstream err;
-        DrivePorts ports(out, err, std::nullopt);
-        VerbFolders disk({});
-        Program program(portsOf(ports), disk.store, disk.folders);
-        program.startForVerb();
-        DriveScript commands(in, {.program = program, .ports = ports, .err = err});
-        ports.forms.runCommands = [&](Form &form) { commands.runForm(form); };
-        Button &entry = program.menu.mnuSystem;
-        entry.setVisible(true);
-        QObject::connect(&entry, &Button::clicked, &entry, [&] {
-            entry.setToolTip(u"running"_s);
-            ports.forms.runModal(program.frmHelp);
-            entry.setToolTip(program.frmHelp.isOpen() ? u"open"_s : u"closed"_s);
-        });
-        const bool right = commands.run();
-        wasClosed = entry.toolTip() == u"closed";
-        return {.status = right ? 0 : 2, .out = out.str(), .err = err.str()};
-    }
-
-    bool wasClosed = false;
-};
-
-TEST_F(ModalDrive, StaysOpenWhileCommandsActOnIt)
-{
-    const CliRun result = drive("press frmHelp.cmdOk\npress mnuSystem\nget mnuSystem\n"
-                                "press frmHelp.cmdOk\npress frmHelp.cmdOk\n");
-    EXPECT_EQ(result.status, 0);
-    EXPECT_TRUE(wasClosed);
-    const std::string refused = R"({"refused": "frmHelp.cmdOk"})"
-                                "\n";
-    EXPECT_EQ(result.out.find(refused), 0U);
-    EXPECT_NE(result.out.find(R"("toolTip": "running",)"), std::string::npos)
-        << "read while it was open";
-    EXPECT_EQ(result.out.rfind(refused), result.out.size() - refused.size());
-}
-
-TEST_F(ModalDrive, TheEndOfTheScriptClosesIt)
-{
-    EXPECT_EQ(drive("press mnuSystem\n# nothing follows\n").status, 0);
-    EXPECT_TRUE(wasClosed);
-}
-
-TEST_F(ModalDrive, AWrongLineAndQuitEndAllLevels)
-{
-    const CliRun wrong = drive("press mnuSystem\nfly away\nget mnuSystem\n");
-    EXPECT_EQ(
-        wrong,
-        (CliRun{.status = 2, .out = {}, .err = "kavro-cli drive: line 2: no command \"fly\"\n"}));
-    EXPECT_EQ(drive("press mnuSystem\nquit\nget mnuSystem\n"),
-              (CliRun{.status = 0, .out = {}, .err = {}}));
+        QByteArray behind;
+        CliRun run;
+    } cases[] = {
+        {"press frmSettings.Command1(0)\npress frmSettings.Command1(0)\n",
+         {.status = 0, .out = refused + open + closed + refused, .err = {}}},
+        {"# nothing\n", {.status = 0, .out = refused + open + closed, .err = {}}},
+        {"quit\ndump\n", {.status = 0, .out = refused + open + closed, .err = {}}},
+        {"fly away\ndump\n",
+         {.status = 2,
+          .out = refused + open + closed,
+          .err = "kavro-cli drive: line 3: no command \"fly\"\n"}},
+    };
+    for (const auto &[behind, run] : cases)
+        EXPECT_EQ(drive("press frmSettings.Command1(0)\npress mnuSettings\n" + behind), run);
 }
 
 } // namespace
