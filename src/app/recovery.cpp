@@ -52,56 +52,55 @@ Recovery::~Recovery()
 
 bool Recovery::begin(const QString &namedFile)
 {
-    bool broughtBack = false;
     const QDir folder(m_parts.folders.path(Folder::Recovery));
-    bool goOn = true;
+    Answer answer = Answer::No;
     for (const QString &name : folder.entryList({u"*.rec"_s}, QDir::Files, QDir::Time)) {
         const int number = QFileInfo(name).baseName().toInt();
         // Somebody who runs holds the lock of a file in use.
-        if (goOn && lock(number)) {
-            broughtBack = offer(fileOf(number), namedFile, goOn);
-            if (broughtBack) {
+        if (answer == Answer::No && lock(number)) {
+            answer = offer(fileOf(number), namedFile);
+            if (answer == Answer::Yes) {
                 m_number = number;
-                break;
+            } else {
+                m_lock.reset();
             }
-            m_lock.reset();
         }
     }
-    if (!broughtBack) {
+    if (m_number == 0) {
         takeNumber();
     }
     watch();
     followChanges(m_parts.document.fileChanged());
-    return broughtBack;
+    return answer == Answer::Yes;
 }
 
-bool Recovery::offer(const QString &file, const QString &namedFile, bool &goOn)
+Answer Recovery::offer(const QString &file, const QString &namedFile)
 {
+    if (!QFileInfo::exists(file)) {
+        return Answer::No; // another start has dealt with it meanwhile
+    }
     std::optional<KeptDocument> kept = readRecovery(file);
     if (!kept) {
         // It stays under another name: what nobody can read today is still not ours to delete.
         QFile::remove(file + u".bad"_s);
         QFile::rename(file, file + u".bad"_s);
-        return false;
+        return Answer::No;
     }
     if (!namedFile.isEmpty() && !isSameFile(namedFile, kept->subFileName)) {
-        return false;
+        return Answer::No;
     }
     const bool overtaken = isNewer(kept->savedPath, file);
     const Answer answer = ask(*kept, overtaken);
-    if (answer == Answer::Yes) {
+    if (answer == Answer::No) {
+        m_parts.store.remove(file);
+    } else if (answer == Answer::Yes) {
         if (overtaken) {
             // A save has to ask before it replaces what was written meanwhile.
             kept->savedPath.clear();
         }
         m_parts.bringBack(*kept);
-        return true;
     }
-    if (answer == Answer::No) {
-        m_parts.store.remove(file);
-    }
-    goOn = answer == Answer::No;
-    return false;
+    return answer;
 }
 
 Answer Recovery::ask(const KeptDocument &kept, bool overtaken)

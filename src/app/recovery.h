@@ -64,7 +64,8 @@ private:
     void followChanges(bool changed);
     void keep();
     void inTheBackground(const std::function<void()> &job);
-    bool offer(const QString &file, const QString &namedFile, bool &goOn);
+    /// Yes when the document was brought back, no when the next may be offered, else cancel.
+    Answer offer(const QString &file, const QString &namedFile);
     Answer ask(const KeptDocument &kept, bool overtaken);
     void takeNumber();
     bool lock(int number);
