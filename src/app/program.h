@@ -3,12 +3,15 @@
 #include "app/about_window.h"
 #include "app/document_host.h"
 #include "app/file_commands.h"
+#include "app/goto_window.h"
+#include "app/help_window.h"
 #include "app/language_pack.h"
 #include "app/navigation.h"
 #include "app/recovery.h"
 #include "app/settings_files.h"
 #include "app/settings_window.h"
-#include "app/windows.h"
+#include "app/splash_window.h"
+#include "app/tip_window.h"
 #include "app/wizard_window.h"
 #include "controls/form.h"
 #include "core/clipboard_panel.h"
@@ -129,7 +132,7 @@ public:
     SettingsPage settings;
 
     Messages messages;
-    ControlWindow control_window;
+    ControlWindow controlWindow;
     SubtitleDocument document;
     Diagnose diagnose;
     EditHistory history;

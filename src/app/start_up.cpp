@@ -4,7 +4,6 @@
 #include "app/version.h"
 #include "formats/format_table.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -39,7 +38,7 @@ void Program::start(const QString &file)
     const Form::Busy busy(frmSplash);
     languagePack.setDesignCaptions();
     prepareFolders();
-    control_window.quiet = true; // a load of the start shows no progress window
+    controlWindow.quiet = true; // a load of the start shows no progress window
     if (file.isEmpty()) {
         splash.open();
     }
@@ -57,7 +56,7 @@ void Program::start(const QString &file)
     if (file.isEmpty() && !broughtBack) {
         loadLastFiles();
     }
-    control_window.quiet = false;
+    controlWindow.quiet = false;
     trace.RecordAction({}, 0); // nobody has acted yet
     if (file.isEmpty()) {
         splash.finish();

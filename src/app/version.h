@@ -20,16 +20,16 @@ inline QString titleWithVersion()
     return QStringLiteral("%1 %2.%3").arg(versionName()).arg(versionMajor).arg(versionMinor);
 }
 
-/// Major, ".", minor, "0": "4.00". Packs and stored files are compared with it.
+/// "4.00": major, ".", minor, "0". Packs and stored files are compared with it.
 inline QString versionNumber()
 {
-    return QStringLiteral("4.00");
+    return QStringLiteral("%1.%2").arg(versionMajor).arg(versionMinor) + u'0';
 }
 
 /// Major, minor and revision without separators.
 inline QString buildNumber()
 {
-    return QStringLiteral("400");
+    return QStringLiteral("%1%2%3").arg(versionMajor).arg(versionMinor).arg(versionRevision);
 }
 
 } // namespace kavro

@@ -75,7 +75,7 @@ void Shell::addWindows()
     m_forms.add(
         program.frmControl,
         [&program](QWidget *parent) {
-            return new ControlWindowView(program.frmControl, program.control_window, parent);
+            return new ControlWindowView(program.frmControl, program.controlWindow, parent);
         },
         true);
     // Made when it opens: by then everything that it shows is there.

@@ -135,7 +135,7 @@ TEST_F(Settings, CancelBringsBackWhatStood)
         EXPECT_FALSE(settings().languageChanged);
         EXPECT_FALSE(settings().List1.isAvailable());
         EXPECT_EQ(settings().Combo2.selectedText(), u"25"_s);
-        EXPECT_TRUE(run->control_window.chkClose.isOn());
+        EXPECT_TRUE(run->controlWindow.chkClose.isOn());
     }
     EXPECT_TRUE(TestProgram::read(stored()).isNull());
     EXPECT_EQ(run->navigation.Combo13.count(), 0) << "the stored list is not read once more";

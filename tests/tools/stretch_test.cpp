@@ -36,11 +36,11 @@ TEST_F(StretchTest, StartsAreScaledAndLengthsKept)
 {
     fill({u"00:00:00,000|00:00:02,000| a"_s, u"00:00:10,000|00:00:12,000| b"_s,
           u"00:00:20,000|00:00:22,000| c"_s});
-    run->control_window.ProgressBar1.setValue(40);
+    run->controlWindow.ProgressBar1.setValue(40);
     const Repaints repaints(grid);
     stretch({1, 3}, u"00:00:10,000"_s, u"00:00:50,000"_s);
     EXPECT_EQ(repaints.painted, 1);
-    EXPECT_EQ(run->control_window.ProgressBar1.value(), 0);
+    EXPECT_EQ(run->controlWindow.ProgressBar1.value(), 0);
     EXPECT_EQ(cells(),
               (QStringList{u"00:00:10,000|00:00:12,000| a"_s, u"00:00:30,000|00:00:32,000| b"_s,
                            u"00:00:50,000|00:00:52,000| c"_s}));

@@ -274,23 +274,23 @@ TEST_F(Windows, ReportOfAShortLoadDoesNotFlash)
     windows.add(
         run->frmControl,
         [this](QWidget *parent) {
-            return new ControlWindowView(run->frmControl, run->control_window, parent);
+            return new ControlWindowView(run->frmControl, run->controlWindow, parent);
         },
         true);
-    run->control_window.open(u"Loading"_s);
-    run->control_window.finish();
+    run->controlWindow.open(u"Loading"_s);
+    run->controlWindow.finish();
     QTest::qWait(260);
     EXPECT_EQ(windows.window(run->frmControl), nullptr);
 
     run->settings.Check3.setOn(false);
-    run->control_window.open(u"Loading"_s);
-    run->control_window.append(u"12 subtitles\n"_s);
-    run->control_window.finish();
+    run->controlWindow.open(u"Loading"_s);
+    run->controlWindow.append(u"12 subtitles\n"_s);
+    run->controlWindow.finish();
     ASSERT_TRUE(QTest::qWaitFor([this] { return windows.window(run->frmControl) != nullptr; }));
     QDialog *dialog = windows.window(run->frmControl);
     EXPECT_FALSE(dialog->isModal());
     EXPECT_TRUE(dialog->findChild<QPlainTextEdit *>()->toPlainText().contains(u"12 subtitles"_s));
-    run->control_window.cmdOk.click();
+    run->controlWindow.cmdOk.click();
     EXPECT_FALSE(dialog->isVisible());
 }
 
