@@ -109,7 +109,7 @@ constexpr DefaultText texts[] = {
     {Report, 15, u"Ready."},
     {Report, 16, u"------------------------------------------------------------"},
     {Report, 17, u"Loading file"},
-    {Report, 18, u"The file can't be added: a document holds 99 parts at most."},
+    {Report, 18, u"The file can't be added: a document holds 99 nodes at most."},
     {Report, 19, u"Not supported"},
     {Report, 20, u"Supported"},
 };

@@ -152,7 +152,7 @@ TEST(Load, RefusesTheHundredthNode)
     fixture.document.nodeCount = SubtitleDocument::maxNodes;
     EXPECT_EQ(fixture.add(u"/nowhere/b.srt"_s).kind, Kind::Failed);
     EXPECT_EQ(fixture.takeMessages(),
-              "File.Add Error: The file can't be added: a document holds 99 parts at most.");
+              "File.Add Error: The file can't be added: a document holds 99 nodes at most.");
 }
 
 TEST(Load, AsksAboutChanges)
