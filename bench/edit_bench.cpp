@@ -58,7 +58,8 @@ void countMatches(benchmark::State &state, int count)
 void bothFilters(benchmark::State &state, int count)
 {
     EditedDocument fixture(count);
-    Filters tool(fixture.frmMain, fixture.document, fixture.bareHistory, fixture.trace);
+    Filters tool(fixture.frmMain, fixture.document, fixture.bareHistory, fixture.language,
+                 fixture.trace);
     tool.Check4[0].setOn(true);
     tool.Check4[1].setOn(true);
     tool.txtMaxCount.setText(u"20"_s);

@@ -30,6 +30,7 @@ struct KeptDocument : bench::EditedDocument
                     .history = bareHistory,
                     .diagnose = diagnose,
                     .messages = messages,
+                    .language = language,
                     .trace = trace}};
     UndoStore undo{document, menu, diagnose, trace};
 };

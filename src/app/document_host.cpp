@@ -21,7 +21,7 @@ bool DocumentHost::openMovie(const QString &path)
         return true;
     }
     const QString missing = m_ports.player.missingText();
-    m_messages.ShowMessage({u"File '%1' can't be played./n%2"_s, {path, missing}}, Answer::Ok,
+    m_messages.ShowMessage({u"File '%1' can't be played./n%2"_s, {path}, missing}, Answer::Ok,
                            u"ok"_s, u"Media Player"_s);
     return false;
 }

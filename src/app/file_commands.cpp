@@ -52,7 +52,7 @@ bool isWhole(const WriteResult &result)
 } // namespace
 
 FileCommands::FileCommands(Form &frmMain, Form &frmFile, const Parts &parts)
-    : window(frmFile, parts.ports, parts.folders, parts.messages, parts.trace),
+    : window(frmFile, parts.ports, parts.folders, parts.messages, parts.language, parts.trace),
       lstEncoding(frmMain, u"lstEncoding"_s),
       m_parts(parts)
 {
@@ -136,7 +136,7 @@ void FileCommands::loadPath(const QString &path, int format)
         ScdFile file;
         const FileStatus status = readScdFile(path, file);
         if (!status.ok()) {
-            m_parts.messages.ShowMessage({u"File '%1' can't be loaded./n%2"_s, {path, status.text}},
+            m_parts.messages.ShowMessage({u"File '%1' can't be loaded./n%2"_s, {path}, status.text},
                                          Answer::Ok, u"ok"_s,
                                          m_parts.language.text(LangGroup::Report, 13));
             return;
@@ -189,7 +189,7 @@ void FileCommands::mnuAddFile()
     m_parts.navigation.autoHelp(AddPage);
     window.List3.setSelected(document.curFormatId);
     window.goTo(document.subFileName);
-    if (!window.show({.info = u"Add subtitle file"_s})) {
+    if (!window.show({.info = m_parts.language.ownText(u"Add subtitle file"_s)})) {
         return;
     }
     const SubtitleDocument::Act act(m_parts.document);

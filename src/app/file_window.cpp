@@ -2,6 +2,7 @@
 
 #include "core/action_trace.h"
 #include "core/folders.h"
+#include "core/language.h"
 #include "core/messages.h"
 #include "core/ports.h"
 #include "formats/file_filters.h"
@@ -14,7 +15,8 @@ namespace kavro {
 using namespace Qt::StringLiterals;
 
 FileWindowState::FileWindowState(Form &frmFile, const Ports &ports, const Folders &folders,
-                                 Messages &messages, ActionTrace &trace)
+                                 Messages &messages, const LanguageTable &language,
+                                 ActionTrace &trace)
     : List1(frmFile, u"List1"_s),
       List2(frmFile, u"List2"_s),
       List3(frmFile, u"List3"_s),
@@ -31,12 +33,12 @@ FileWindowState::FileWindowState(Form &frmFile, const Ports &ports, const Folder
       m_ports(ports),
       m_folders(folders),
       m_messages(messages),
+      m_language(language),
       m_trace(trace)
 {
     cmdAction[1].setEnabled(false);
 
-    QObject::connect(&List3, &ListBox::selectedChanged, &List3,
-                     [this](int filter) { Label5.setCaption(filterLabel(filter)); });
+    QObject::connect(&List3, &ListBox::selectedChanged, &List3, [this] { showFilter(); });
     QObject::connect(&List3, &ListBox::picked, &List3, [this] { listFiles(); });
     QObject::connect(&File1, &ListBox::picked, &File1,
                      [this] { txtFilename.setText(File1.selectedText()); });
@@ -50,15 +52,34 @@ FileWindowState::FileWindowState(Form &frmFile, const Ports &ports, const Folder
         QObject::connect(&button, &Button::clicked, &button,
                          [this, &button] { close(button.index()); });
     }
-    fill();
+    fillFilters();
 }
 
-void FileWindowState::fill()
+void FileWindowState::fillFilters()
 {
-    for (const QString &filter : fileFilters()) {
-        List3.addItem(filter.section(u'|', 0, 0));
+    QStringList labels = filters();
+    for (QString &label : labels) {
+        label = label.section(u'|', 0, 0);
     }
+    List3.setItems(labels);
     List3.setSelected(SupportedFiles);
+    showFilter();
+}
+
+void FileWindowState::showFilter()
+{
+    Label5.setCaption(List3.selectedText().section(" ("_L1, 0, 0));
+}
+
+/// The file types; the names of formats are the same in every language.
+QStringList FileWindowState::filters() const
+{
+    QStringList filters = fileFilters();
+    for (QString &filter : filters) {
+        const qsizetype end = filter.indexOf(" ("_L1);
+        filter.replace(0, end, m_language.ownText(filter.first(end)));
+    }
+    return filters;
 }
 
 void FileWindowState::setFolder(const QString &folder)
@@ -112,7 +133,7 @@ bool FileWindowState::show(const FileWindowOptions &options)
         m_ports.files.show({.info = options.info,
                             .folder = Label1.caption(),
                             .name = txtFilename.text(),
-                            .filters = fileFilters(),
+                            .filters = filters(),
                             .filterIndex = List3.selected(),
                             .nameEnabled = options.nameEnabled,
                             .offersMediaName = options.mediaName,

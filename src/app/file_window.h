@@ -10,6 +10,7 @@ namespace kavro {
 
 class Folders;
 class Form;
+class LanguageTable;
 class Messages;
 struct ActionTrace;
 struct Ports;
@@ -30,7 +31,10 @@ class FileWindowState
 {
 public:
     FileWindowState(Form &frmFile, const Ports &ports, const Folders &folders, Messages &messages,
-                    ActionTrace &trace);
+                    const LanguageTable &language, ActionTrace &trace);
+
+    /// Fills the list of file types in the person's language and selects all that is supported.
+    void fillFilters();
 
     /// The folder and the name that the window opens with.
     void goTo(const QString &path);
@@ -57,7 +61,8 @@ public:
     ControlArray<Button, 0, 1> cmdAction; ///< 0 Cancel, 1 OK
 
 private:
-    void fill();
+    [[nodiscard]] QStringList filters() const;
+    void showFilter();
     void setFolder(const QString &folder);
     void listFiles();
     void close(int button);
@@ -66,6 +71,7 @@ private:
     const Ports &m_ports;
     const Folders &m_folders;
     Messages &m_messages;
+    const LanguageTable &m_language;
     ActionTrace &m_trace;
 };
 

@@ -178,7 +178,7 @@ void LanguagePack::apply(const LanguageSection &section, int index, const Texts 
         if (section.target == LanguageTarget::Controls) {
             setRow(section, *row, texts);
         } else if (!texts.caption.isEmpty()) {
-            ownTexts.insert(row->caption.toString(), texts.caption);
+            m_parts.language.ownTexts.insert(row->caption.toString(), texts.caption);
         }
     }
     }
@@ -230,7 +230,7 @@ void LanguagePack::ScanLanguageFiles()
         if (!version.startsWith(u"4.0")) {
             continue;
         }
-        const QString title = name + u" by: "_s + author;
+        const QString title = name + m_parts.language.ownText(u" by: "_s) + author;
         if (!names.items().contains(title, Qt::CaseInsensitive)) {
             names.addItem(title);
             paths.addItem(path);

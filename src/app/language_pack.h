@@ -2,7 +2,6 @@
 
 #include "app/language_sections.h"
 
-#include <QHash>
 #include <QString>
 #include <QStringView>
 
@@ -47,7 +46,6 @@ public:
     void ScanLanguageFiles();
 
     std::array<QString, settingsNodeCount> settingsNodeCaption; ///< of the Settings tree
-    QHash<QString, QString> ownTexts; ///< those of views and messages, by the English ones
     std::array<QString, variableCount> sysVarHelp; ///< of each system variable, by its number
 
 private:

@@ -11,7 +11,7 @@ std::span<const LanguageSection> languageSections()
         std::vector<LanguageSection> sections;
         for (const auto &run :
              {mainSections(), editorSections(), toolSections(), settingsSections(),
-              dialogSections(), windowSections(), messageSections()})
+              dialogSections(), windowSections(), messageSections(), reportSections()})
         {
             sections.insert(sections.end(), run.begin(), run.end());
         }

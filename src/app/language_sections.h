@@ -60,6 +60,7 @@ std::span<const LanguageSection> settingsSections();
 std::span<const LanguageSection> dialogSections();
 std::span<const LanguageSection> windowSections();
 std::span<const LanguageSection> messageSections();
+std::span<const LanguageSection> reportSections();
 std::span<const LanguageRow> variableHelpRows();
 
 } // namespace kavro

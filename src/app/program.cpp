@@ -45,7 +45,7 @@ Program::Program(const Ports &doors, FileStore &fileStore, Folders &appFolders)
       partition(frmMain),
       status(frmMain),
       settings(frmSettings),
-      messages(frmMessageBox, ports.messages, trace, variables),
+      messages(frmMessageBox, ports.messages, language, trace, variables),
       controlWindow(frmControl, settings),
       document(editor, times, fonts, player, settings, language, trace),
       diagnose(frmMain, {.document = document,
@@ -90,6 +90,7 @@ Program::Program(const Ports &doors, FileStore &fileStore, Folders &appFolders)
                  .history = history,
                  .diagnose = diagnose,
                  .messages = messages,
+                 .language = language,
                  .trace = trace}),
       shift(frmMain, document, history, messages, language, trace),
       stretch(frmMain, document, history, controlWindow, messages, language, trace),
@@ -101,8 +102,8 @@ Program::Program(const Ports &doors, FileStore &fileStore, Folders &appFolders)
                               .history = history,
                               .language = language,
                               .trace = trace}),
-      filters(frmMain, document, history, trace),
-      fontChange(document, history, trace),
+      filters(frmMain, document, history, language, trace),
+      fontChange(document, history, language, trace),
       clips(frmMain, {.panel = clipboard,
                       .editor = editor,
                       .times = times,
@@ -175,7 +176,7 @@ Program::Program(const Ports &doors, FileStore &fileStore, Folders &appFolders)
                            .language = language,
                            .folders = folders,
                            .trace = trace}),
-      splash(frmSplash),
+      splash(frmSplash, language),
       tips(frmTip, settings, language, folders, ports.random),
       wizard(frmWizard, settings),
       help(frmHelp, ports.help, language, folders),
@@ -257,9 +258,6 @@ void Program::connectTools()
             partitionList.enterCell();
         }
     });
-    messages.inLanguage = [this](const QString &text) {
-        return languagePack.ownTexts.value(text, text);
-    };
     undo.formatChanged = [this] { loader.showFormat(document.curFormatId); };
     searchReplace.showPage = [this] {
         navigation.tabMain.setTab(EditorTab);

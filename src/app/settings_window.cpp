@@ -242,7 +242,7 @@ bool SettingsWindow::SaveSettings()
     settings.languageFile = settings.Check2.isOn() ? settings.List2.selectedText() : QString();
     const FileStatus status = m_parts.files.writeOptions();
     if (!status.ok()) {
-        m_parts.messages.ShowMessage({u"The settings can't be stored./n%1"_s, {status.text}},
+        m_parts.messages.ShowMessage({u"The settings can't be stored./n%1"_s, {}, status.text},
                                      Answer::Ok, u"ok"_s,
                                      m_parts.language.text(LangGroup::Report, 13));
         return false;

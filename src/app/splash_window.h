@@ -10,12 +10,13 @@
 namespace kavro {
 
 class Form;
+class LanguageTable;
 
 /// The window of the start, `frmSplash`: shows what is being done, then counts down and goes.
 class SplashWindow
 {
 public:
-    explicit SplashWindow(Form &frmSplash);
+    SplashWindow(Form &frmSplash, const LanguageTable &language);
 
     /// Opens the window; the countdown waits for `finish`.
     void open();
@@ -39,6 +40,7 @@ private:
     void countDown();
 
     Form &m_form;
+    const LanguageTable &m_language;
     int m_seconds = 0;
 };
 

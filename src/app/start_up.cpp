@@ -106,7 +106,7 @@ void Program::prepareFolders()
     const FileStatus prepared = folders.prepare();
     if (!prepared.ok()) {
         messages.ShowMessage(
-            {u"The folder '%1' can't be used./n%2"_s, {folders.path(Folder::Root), prepared.text}},
+            {u"The folder '%1' can't be used./n%2"_s, {folders.path(Folder::Root)}, prepared.text},
             Answer::Ok, u"ok"_s, language.text(LangGroup::Report, 13));
     }
 }
@@ -128,6 +128,7 @@ void Program::fillTexts()
     partitionList.fillCaptions(language);
     fillFormatLists();
     fillLanguageLists();
+    fileCommands.window.fillFilters();
     status.StatusBar1.setPanel(StatePanel, language.text(LangGroup::Common, 39));
     document.RefreshCurrentRow();
 }

@@ -42,8 +42,9 @@ void TipWindow::show()
     chkLoadTipsAtStartup.setOn(true);
     const QString name = u"tip.sdf"_s;
     if (!LoadTips(m_folders.path(Folder::Help, m_language.languageFolder + u'/' + name))) {
-        lblTipText.setCaption(u"That the "_s + name
-                              + u" file was not found? \r\n\r\nRe-install the language pack."_s);
+        lblTipText.setCaption(m_language.ownText(u"That the %1 file was not found? "_s).arg(name)
+                              + u"\r\n\r\n"_s
+                              + m_language.ownText(u"Re-install the language pack."_s));
     }
     m_form.show();
 }

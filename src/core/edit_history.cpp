@@ -111,7 +111,8 @@ void EditHistory::tellFailed(const FileStatus &status)
     m_parts->messages.ShowMessage(
         {u"The history can't keep the document as it stands./n%1/n/nThe change is made all the "
          "same; 'Undo' takes it back."_s,
-         {status.text}},
+         {},
+         status.text},
         Answer::Ok, u"ok"_s, u"History"_s);
 }
 
@@ -138,7 +139,7 @@ void EditHistory::RestoreHistory(const QString &line)
         return;
     }
     m_parts->messages.ShowMessage(
-        {u"The document can't be brought back to '%1'./n%2"_s, {line, status.text}}, Answer::Ok,
+        {u"The document can't be brought back to '%1'./n%2"_s, {line}, status.text}, Answer::Ok,
         u"ok"_s, u"History"_s);
 }
 

@@ -56,4 +56,9 @@ void LanguageTable::setTip(LangGroup group, int item, const QString &tip)
     }
 }
 
+QString LanguageTable::ownText(const QString &english) const
+{
+    return ownTexts.value(english, english);
+}
+
 } // namespace kavro

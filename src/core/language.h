@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
 
 #include <array>
@@ -39,6 +40,12 @@ public:
     /// Nothing for an item outside 0 to 50.
     void setText(LangGroup group, int item, const QString &text);
     void setTip(LangGroup group, int item, const QString &tip);
+
+    /// What a pack says for a text that has no place in the groups: a message, a fault, a note.
+    /// The English text itself where no pack has one.
+    [[nodiscard]] QString ownText(const QString &english) const;
+
+    QHash<QString, QString> ownTexts; ///< texts outside the groups, by the English ones
 
     QString languageName = QStringLiteral("English");
     QString languageAuthor;

@@ -2,6 +2,7 @@
 
 #include "controls/form.h"
 #include "core/action_trace.h"
+#include "core/language.h"
 #include "core/macro_variables.h"
 #include "core/text.h"
 
@@ -34,8 +35,8 @@ QString putIn(QStringView pattern, const QStringList &values)
 
 } // namespace
 
-Messages::Messages(Form &frmMessageBox, MessageWindow &window, ActionTrace &trace,
-                   MacroVariables &variables)
+Messages::Messages(Form &frmMessageBox, MessageWindow &window, const LanguageTable &language,
+                   ActionTrace &trace, MacroVariables &variables)
     : Label4(frmMessageBox, u"Label4"_s),
       Label1(frmMessageBox, u"Label1"_s),
       cmdAction(frmMessageBox, u"cmdAction"_s),
@@ -44,6 +45,7 @@ Messages::Messages(Form &frmMessageBox, MessageWindow &window, ActionTrace &trac
       Label2(frmMessageBox, u"Label2"_s),
       m_form(frmMessageBox),
       m_window(window),
+      m_language(language),
       m_trace(trace),
       m_variables(variables)
 {
@@ -57,16 +59,17 @@ Answer Messages::ShowMessage(const MessageText &text, Answer defaultButton, cons
                              const QString &title, bool showInput)
 {
     m_trace.RecordAction({}, 30);
-    const auto translated = [this](const QString &own) {
-        return inLanguage ? inLanguage(own) : own;
-    };
     // Line breaks come first: the value of a variable may be a path with a folder "/n...".
-    QString pattern = expandLineBreaks(translated(text.pattern));
+    QString pattern = expandLineBreaks(m_language.ownText(text.pattern));
     if (expandVariables) {
         pattern = expandVariables(pattern);
     }
-    const Message message{.title = translated(title),
-                          .text = putIn(pattern, text.arguments),
+    QStringList values = text.arguments;
+    if (text.fault) {
+        values.append(m_language.ownText(*text.fault));
+    }
+    const Message message{.title = m_language.ownText(title),
+                          .text = putIn(pattern, values),
                           .kind = kind.toLower(),
                           .defaultButton = defaultButton,
                           .showInput = showInput};

@@ -5,6 +5,8 @@
 #include "core/ports.h"
 
 #include <functional>
+#include <optional>
+#include <utility>
 
 namespace kavro {
 
@@ -20,20 +22,24 @@ struct MacroVariables;
 struct MessageText
 {
     // NOLINTNEXTLINE(google-explicit-constructor): a plain text is a template without arguments
-    MessageText(const QString &text, const QStringList &values = {})
-        : pattern(text), arguments(values)
+    MessageText(const QString &text, const QStringList &values = {},
+                std::optional<QString> faultText = {})
+        : pattern(text), arguments(values), fault(std::move(faultText))
     {}
 
     QString pattern;
     QStringList arguments;
+    /// What is wrong with a file, in the program's own words: put in behind the arguments, in the
+    /// person's language.
+    std::optional<QString> fault;
 };
 
 /// The message window, `frmMessageBox`: the single way to report or ask anything.
 class Messages
 {
 public:
-    Messages(Form &frmMessageBox, MessageWindow &window, ActionTrace &trace,
-             MacroVariables &variables);
+    Messages(Form &frmMessageBox, MessageWindow &window, const LanguageTable &language,
+             ActionTrace &trace, MacroVariables &variables);
 
     /// Shows a message and waits. Records code 30. The form is open meanwhile, and `cmdAction` may
     /// be clicked in place of the window's reply: both do the same. A reply that the message
@@ -47,8 +53,6 @@ public:
     /// The last answer.
     Answer msgResult = Answer::Cancel;
 
-    /// A text of the program in the person's language; set by the language packs.
-    std::function<QString(const QString &)> inLanguage;
     /// Replaces the variables in a text by their values; set by the macro system.
     std::function<QString(const QString &)> expandVariables;
     /// Called when a variable was entered in the window.
@@ -70,6 +74,7 @@ private:
 
     Form &m_form;
     MessageWindow &m_window;
+    const LanguageTable &m_language;
     ActionTrace &m_trace;
     MacroVariables &m_variables;
     bool m_answered = false; ///< a button of the message that shows was clicked

@@ -122,8 +122,10 @@ void Diagnose::scan(const DiagnoseSwitches &switches)
 std::optional<int> Diagnose::lineOf(int node) const
 {
     const QString &text = tvDiag.node(node).text;
-    return text.startsWith("Line"_L1)
-               ? std::optional(static_cast<int>(std::lround(Val(Mid(text, 6, 4)))))
+    const QString word = m_parts.language.ownText(u"Line"_s);
+    const auto digits = static_cast<int>(word.size()) + 2; // behind a blank
+    return text.startsWith(word)
+               ? std::optional(static_cast<int>(std::lround(Val(Mid(text, digits, 4)))))
                : std::nullopt;
 }
 

@@ -88,7 +88,7 @@ QString findingText(QStringView text, const LineValues &line)
     filled.reserve(text.size() + 24);
     while (!text.isEmpty()) {
         const qsizetype mark = text.indexOf(u'%');
-        if (mark < 0) {
+        if (mark < 0 || mark + 1 == text.size()) {
             break;
         }
         filled.append(text.first(mark)).append(valueOf(text[mark + 1], line));

@@ -1,6 +1,7 @@
 #include "diagnose/result_tree.h"
 
 #include "controls/tree_view.h"
+#include "core/language.h"
 #include "core/text.h"
 #include "diagnose/findings.h"
 
@@ -85,8 +86,9 @@ void ResultTree::addNode(int node, int firstRow, int lastRow)
 {
     m_entries.push_back({.kind = Kind::Node,
                          .node = node,
-                         .text = u"Node[" % QString::number(node) % u"] = "
-                                 % QString::number(firstRow) % u" to " % QString::number(lastRow)});
+                         .text = m_language.ownText(u"Node[%1] = %2 to %3"_s)
+                                     .arg(QString::number(node), QString::number(firstRow),
+                                          QString::number(lastRow))});
 }
 
 void ResultTree::addFinding(int node, int row, const QString &explanation)
@@ -137,7 +139,8 @@ void ResultTree::fillHeading(TreeView &tree) const
 {
     for (const FixedNode &node : fixedNodes) {
         const int parent = node.parent.isEmpty() ? TreeView::noNode : nodeOf(tree, node.parent);
-        tree.add(parent, node.told ? m_heading.*node.told : node.text.toString(),
+        tree.add(parent,
+                 node.told ? m_heading.*node.told : m_language.ownText(node.text.toString()),
                  node.key.toString());
     }
 }
@@ -146,7 +149,7 @@ void ResultTree::fillEntry(TreeView &tree, const Entry &entry) const
 {
     const auto line = [&](QStringView parent, QStringView kind) {
         addBelow(tree, nodeOf(tree, parent), keyOf(kind, entry.row),
-                 u"Line " % fourDigits(entry.row), entry.text);
+                 m_language.ownText(u"Line"_s) % u' ' % fourDigits(entry.row), entry.text);
     };
     switch (entry.kind) {
     case Kind::Node:
@@ -160,7 +163,7 @@ void ResultTree::fillEntry(TreeView &tree, const Entry &entry) const
     }
 }
 
-void ResultTree::fillSummary(TreeView &tree, const RunSummary &summary)
+void ResultTree::fillSummary(TreeView &tree, const RunSummary &summary) const
 {
     const auto tell = [&tree](QStringView key, const QString &text) {
         tree.add(nodeOf(tree, key), text);
@@ -173,7 +176,7 @@ void ResultTree::fillSummary(TreeView &tree, const RunSummary &summary)
     tell(u"cframe", summary.frames);
     const int parent = nodeOf(tree, u"errsum");
     const auto count = [&](const QString &key, const QString &caption, int number) {
-        addBelow(tree, parent, key, caption, QString::number(number));
+        addBelow(tree, parent, key, m_language.ownText(caption), QString::number(number));
     };
     count(u"errdet"_s, u"Detected"_s, summary.detected);
     count(u"errfix"_s, u"Fixed"_s, summary.fixed);

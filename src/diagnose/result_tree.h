@@ -6,6 +6,7 @@
 
 namespace kavro {
 
+class LanguageTable;
 class TreeView;
 
 /// What a run tells at its end.
@@ -40,6 +41,9 @@ public:
 
     enum class Solution { OfTime, OfText };
 
+    /// `language` outlives the tree.
+    explicit ResultTree(const LanguageTable &language) : m_language(language) {}
+
     /// A run begins.
     void begin(const Heading &heading);
     /// The run has come to a node.
@@ -69,8 +73,9 @@ private:
 
     void fillHeading(TreeView &tree) const;
     void fillEntry(TreeView &tree, const Entry &entry) const;
-    static void fillSummary(TreeView &tree, const RunSummary &summary);
+    void fillSummary(TreeView &tree, const RunSummary &summary) const;
 
+    const LanguageTable &m_language;
     Heading m_heading;
     std::vector<Entry> m_entries;
     std::vector<RunSummary> m_summaries;

@@ -30,17 +30,12 @@ constexpr std::size_t errorVariable = 31;
 constexpr Color faultyColor = Color::fromBgr(0x0080FF);
 constexpr Color repairedColor = Color::fromBgr(0x80000005);
 
-QString notCounted()
-{
-    return u"Not counted"_s;
-}
-
 /// Frames that a time lasts, with the rate: "1438 (23.97 fps)".
-QString framesText(QStringView time, QStringView frameRate)
+QString framesText(QStringView time, QStringView frameRate, const LanguageTable &language)
 {
     const double rate = Val(frameRate);
-    return numberText(cutToWhole(rate * TimeCodeToMs(time) / 1000)) % u" (" % numberText(rate)
-           % u" fps)";
+    return language.ownText(u"%1 (%2 fps)"_s)
+        .arg(numberText(cutToWhole(rate * TimeCodeToMs(time) / 1000)), numberText(rate));
 }
 
 } // namespace
@@ -49,7 +44,8 @@ DiagnoseScan::DiagnoseScan(const Parts &parts, const DiagnoseSwitches &switches)
     : m_parts(parts),
       m_switches(switches),
       m_grid(parts.document.editor.grdSubEdit),
-      m_facts(m_grid, m_switches)
+      m_facts(m_grid, m_switches),
+      m_tree(parts.language)
 {}
 
 void DiagnoseScan::run()
@@ -69,12 +65,14 @@ void DiagnoseScan::beginRun()
     document.clearRowErrors();
     m_silentLines.clear();
     document.errorCount = 0;
+    const QString file = document.subFileName;
     const QString format = m_parts.status.StatusBar1.panel(2);
-    m_tree.begin({.file = document.subFileName.isEmpty() ? u"None loaded"_s : document.subFileName,
-                  .format = trimmed(format).isEmpty() ? u"Unknown"_s : format,
+    const LanguageTable &language = m_parts.language;
+    m_tree.begin({.file = file.isEmpty() ? language.ownText(u"None loaded"_s) : file,
+                  .format = trimmed(format).isEmpty() ? language.ownText(u"Unknown"_s) : format,
                   .date = now.toString(u"yyyy-MM-dd"_s),
                   .time = now.toString(u"HH:mm:ss"_s),
-                  .errors = m_parts.language.text(LangGroup::Report, 13)});
+                  .errors = language.text(LangGroup::Report, 13)});
     m_runs.push_back(
         {.startTime = now.time().msecsSinceStartOfDay(), .nodeCount = document.nodeCount});
 }
@@ -127,16 +125,19 @@ void DiagnoseScan::tellSummary()
 {
     const Run &run = current();
     const int elapsed = m_parts.clock.now().time().msecsSinceStartOfDay() - run.startTime;
-    const auto counted = [this](DiagnoseSwitch one, int count) {
-        return isOn(one) ? QString::number(count) : notCounted();
+    const LanguageTable &language = m_parts.language;
+    const QString notCounted = language.ownText(u"Not counted"_s);
+    const auto counted = [&](DiagnoseSwitch one, int count) {
+        return isOn(one) ? QString::number(count) : notCounted;
     };
-    m_tree.end({.duration = numberText(elapsed / 1000.0) % u" seconds.",
+    m_tree.end({.duration = language.ownText(u"%1 seconds."_s).arg(numberText(elapsed / 1000.0)),
                 .lines = m_grid.rows() - 2,
                 .words = counted(CountWords, run.wordCount),
                 .multiLines = counted(CountMultiLines, run.multiLineCount),
-                .time = isOn(CountTime) ? run.totalTime : notCounted(),
-                .frames = isOn(CountTime) ? framesText(run.totalTime, m_parts.document.frameRate)
-                                          : notCounted(),
+                .time = isOn(CountTime) ? run.totalTime : notCounted,
+                .frames = isOn(CountTime)
+                              ? framesText(run.totalTime, m_parts.document.frameRate, language)
+                              : notCounted,
                 .detected = run.errorCount,
                 .fixed = run.fixedCount});
 }
@@ -239,11 +240,17 @@ void DiagnoseScan::countTexts(QStringView first)
     }
 }
 
+/// A text of a finding in the person's language, with the line's values.
+QString DiagnoseScan::told(QStringView text, const LineValues &line) const
+{
+    return findingText(m_parts.language.ownText(text.toString()), line);
+}
+
 void DiagnoseScan::tellTime(const TimeFinding &finding, const LineValues &line)
 {
     SubtitleDocument &document = m_parts.document;
     const int row = line.row + finding.rowOffset;
-    const QString explanation = findingText(finding.explanation, line);
+    const QString explanation = told(finding.explanation, line);
     countFinding();
     if (finding.ownLine) {
         m_tree.addFinding(current().node, line.row, explanation);
@@ -257,7 +264,7 @@ void DiagnoseScan::tellTime(const TimeFinding &finding, const LineValues &line)
     }
     document.setRowErrorText(row, repair ? QString() : explanation);
     m_tree.addSolution(ResultTree::Solution::OfTime, line.row,
-                       findingText(repair ? finding.solved : finding.advice, line));
+                       told(repair ? finding.solved : finding.advice, line));
     if (repair) {
         m_grid.setText(row, finding.column, findingText(finding.newTime, line));
         countRepair();
@@ -268,13 +275,12 @@ void DiagnoseScan::tellTime(const TimeFinding &finding, const LineValues &line)
 
 void DiagnoseScan::tellText(const TextFinding &finding, const LineValues &line)
 {
-    const QString explanation = findingText(finding.explanation, line);
+    const QString explanation = told(finding.explanation, line);
     countFinding();
     m_parts.document.setRowErrorText(line.row, explanation);
     m_tree.addFinding(current().node, line.row, explanation);
     if (!isOn(RepairEmpty)) {
-        m_tree.addSolution(ResultTree::Solution::OfText, line.row,
-                           findingText(finding.advice, line));
+        m_tree.addSolution(ResultTree::Solution::OfText, line.row, told(finding.advice, line));
         m_grid.setCellColor(line.row, finding.column, faultyColor);
     } else if (finding.filled != NoCell) {
         for (const TextFinding::Move &move : finding.moves) {
@@ -290,7 +296,7 @@ void DiagnoseScan::tellText(const TextFinding &finding, const LineValues &line)
 void DiagnoseScan::tellRepairedText(const TextFinding &finding, const LineValues &line)
 {
     m_parts.document.setRowErrorText(line.row, {});
-    m_tree.addSolution(ResultTree::Solution::OfText, line.row, findingText(finding.solved, line));
+    m_tree.addSolution(ResultTree::Solution::OfText, line.row, told(finding.solved, line));
     countRepair();
     m_grid.setCellColor(line.row, finding.column, repairedColor);
 }
@@ -299,9 +305,8 @@ void DiagnoseScan::tellSavedEmpty(const LineValues &line)
 {
     countFinding();
     m_silentLines.append(line.row);
-    m_tree.addFinding(current().node, line.row, SavedEmptyLine::explanation.toString());
-    m_tree.addSolution(ResultTree::Solution::OfText, line.row,
-                       findingText(SavedEmptyLine::advice, line));
+    m_tree.addFinding(current().node, line.row, told(SavedEmptyLine::explanation, line));
+    m_tree.addSolution(ResultTree::Solution::OfText, line.row, told(SavedEmptyLine::advice, line));
 }
 
 /// True when the document is to be scanned anew ahead of the deletion's end.

@@ -87,6 +87,7 @@ private:
     void countFinding();
     void countRepair();
     void countTexts(QStringView first);
+    [[nodiscard]] QString told(QStringView text, const LineValues &line) const;
     void tellTime(const TimeFinding &finding, const LineValues &line);
     void tellText(const TextFinding &finding, const LineValues &line);
     void tellSavedEmpty(const LineValues &line);

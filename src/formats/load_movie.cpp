@@ -63,10 +63,13 @@ void LoadRun::showMovie()
     if (!m_request.showLog)
         return;
     const QString &rate = m_parts.document.frameRate;
-    m_parts.control.append(report(4) % Right(m_request.path, 3).toString().toUpper()
-                           % u"\r\n  Length: " % SecondsToTimeCode(secondsText(duration))
-                           % u"\r\n  Frames: " % numberText(duration * Val(rate)) % u" at " % rate
-                           % u" fps\r\n" % report(15) % u"\r\n" % report(16) % u"\r\n");
+    m_parts.control.append(
+        report(4) % Right(m_request.path, 3).toString().toUpper() % u"\r\n"
+        % m_parts.language.ownText(u"  Length: %1"_s).arg(SecondsToTimeCode(secondsText(duration)))
+        % u"\r\n"
+        % m_parts.language.ownText(u"  Frames: %1 at %2 fps"_s)
+              .arg(numberText(duration * Val(rate)), rate)
+        % u"\r\n" % report(15) % u"\r\n" % report(16) % u"\r\n");
 }
 
 QString LoadRun::subtitleBeside() const

@@ -197,7 +197,7 @@ LoadResult LoadRun::readDocument()
 LoadResult LoadRun::fail(const QString &error)
 {
     if (m_request.showMessages) {
-        m_parts.messages.ShowMessage({u"File '%1' can't be loaded./n%2"_s, {m_request.path, error}},
+        m_parts.messages.ShowMessage({u"File '%1' can't be loaded./n%2"_s, {m_request.path}, error},
                                      Answer::Ok, u"ok"_s, report(13));
     }
     return {.kind = Kind::Failed, .error = error};

@@ -1,12 +1,11 @@
 #include "formats/losses.h"
 
+#include "core/language.h"
 #include "core/text.h"
 #include "core/timecode.h"
 #include "formats/format_table.h"
 #include "formats/positions.h"
 #include "formats/write_frame.h"
-
-#include <QStringBuilder>
 
 #include <algorithm>
 #include <cmath>
@@ -80,20 +79,32 @@ bool Losses::losesMilliseconds(QStringView code, double frameRate) const
     return false;
 }
 
-QStringList Losses::lines() const
+QStringList Losses::lines(const LanguageTable &language) const
 {
-    QStringList lines;
-    const auto tell = [&](int count, QStringView what) {
-        if (count > 0) {
-            lines.append(m_format.name % u" can't hold " % what % u" of " % QString::number(count)
-                         % (count == 1 ? u" subtitle." : u" subtitles."));
-        }
+    const struct
+    {
+        int count;
+        QString one;
+        QString many;
+    } losses[] = {
+        {m_milliseconds, u"%1 can't hold the milliseconds of %2 subtitle."_s,
+         u"%1 can't hold the milliseconds of %2 subtitles."_s},
+        {m_hours, u"%1 can't hold the hours above nine of %2 subtitle."_s,
+         u"%1 can't hold the hours above nine of %2 subtitles."_s},
+        {m_signs, u"%1 can't hold the minus sign of %2 subtitle."_s,
+         u"%1 can't hold the minus sign of %2 subtitles."_s},
+        {m_texts, u"%1 can't hold the text behind an empty line of %2 subtitle."_s,
+         u"%1 can't hold the text behind an empty line of %2 subtitles."_s},
+        {m_styles, u"%1 can't hold the style of %2 subtitle."_s,
+         u"%1 can't hold the style of %2 subtitles."_s},
     };
-    tell(m_milliseconds, u"the milliseconds");
-    tell(m_hours, u"the hours above nine");
-    tell(m_signs, u"the minus sign");
-    tell(m_texts, u"the text behind an empty line");
-    tell(m_styles, u"the style");
+    QStringList lines;
+    for (const auto &[count, one, many] : losses) {
+        if (count > 0) {
+            lines.append(language.ownText(count == 1 ? one : many)
+                             .arg(m_format.name.toString(), QString::number(count)));
+        }
+    }
     return lines;
 }
 

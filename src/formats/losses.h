@@ -6,6 +6,7 @@
 
 namespace kavro {
 
+class LanguageTable;
 class WriteFrame;
 struct FormatInfo;
 
@@ -19,8 +20,8 @@ public:
     /// Looks at the subtitle that the frame stands on.
     void add(const WriteFrame &frame);
 
-    /// One line for each kind of loss, for a person; empty when nothing was lost.
-    [[nodiscard]] QStringList lines() const;
+    /// One line for each kind of loss, in the person's language; empty when nothing was lost.
+    [[nodiscard]] QStringList lines(const LanguageTable &language) const;
 
 private:
     [[nodiscard]] bool losesSign(QStringView code) const;

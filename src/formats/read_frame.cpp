@@ -150,9 +150,10 @@ void ReadFrame::fault()
     m_source.control.setCaption(text(9));
     if (m_answer == Answer::No)
         return;
-    m_answer = m_source.messages.ShowMessage({text(7) % u"/nLine #%1 = '%2'/n/n" % text(8),
-                                              {QString::number(nextRow() - 1), m_line.toString()}},
-                                             Answer::Yes, u"yesno"_s, text(13));
+    m_answer = m_source.messages.ShowMessage(
+        {text(7) % u"/n" % m_source.language.ownText(u"Line #%1 = '%2'"_s) % u"/n/n" % text(8),
+         {QString::number(nextRow() - 1), m_line.toString()}},
+        Answer::Yes, u"yesno"_s, text(13));
 }
 
 void ReadFrame::showProgress()

@@ -224,7 +224,7 @@ void WriteRun::tellLosses()
 {
     if (!m_losses || m_result.files.isEmpty())
         return;
-    m_result.losses = m_losses->lines();
+    m_result.losses = m_losses->lines(m_parts.language);
     for (const QString &line : std::as_const(m_result.losses))
         m_parts.control.append(line % u"\r\n");
 }
@@ -240,7 +240,7 @@ bool WriteRun::fail(const QString &description)
 {
     m_result.kind = Kind::Failed;
     m_result.error = description;
-    m_parts.messages.ShowMessage({u"Error writing file (%1)."_s, {description}}, Answer::Ok,
+    m_parts.messages.ShowMessage({u"Error writing file (%1)."_s, {}, description}, Answer::Ok,
                                  u"ok"_s, report(13));
     return false;
 }

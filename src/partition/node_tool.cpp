@@ -23,7 +23,7 @@ NodeTool::NodeTool(const Parts &parts) : m_parts(parts)
 
 void NodeTool::toggle()
 {
-    const StatusNote note(m_parts.status, u"Calculating nodes"_s);
+    const StatusNote note(m_parts.status, m_parts.language.ownText(u"Calculating nodes"_s));
     const int row = m_parts.editor.grdSubEdit.row();
     if (!m_parts.document.toggleNode(row)) {
         refuse(row);

@@ -40,7 +40,8 @@ void ScriptPreview::mnuPreview()
 
 bool ScriptPreview::makeLines(QStringList &lines)
 {
-    const StatusNote note(m_parts.status, u"Creating preview. Please wait..."_s);
+    const StatusNote note(m_parts.status,
+                          m_parts.language.ownText(u"Creating preview. Please wait..."_s));
     const SubtitleDocument &document = m_parts.document;
     const WriteResult result = m_parts.writer.CreateSubFile(
         {.preview = true, .format = document.curFormatId, .lastRow = document.subtitleCount()});
@@ -50,7 +51,7 @@ bool ScriptPreview::makeLines(QStringList &lines)
     const FileStatus status = readPreviewFile(result.path, lines);
     if (!status.ok()) {
         m_parts.messages.ShowMessage(
-            {u"The preview '%1' can't be read./n%2"_s, {result.path, status.text}}, Answer::Ok,
+            {u"The preview '%1' can't be read./n%2"_s, {result.path}, status.text}, Answer::Ok,
             u"ok"_s, m_parts.language.text(LangGroup::Report, 13));
     }
     return status.ok();

@@ -83,8 +83,8 @@ void SplitOutput::makeParts()
         return;
     }
     if (const int part = badPart(); part > 0) {
-        refuse(u"Part %1 has no name that a file can have: '%2'./nNothing was written."_s,
-               {QString::number(part), m_parts.page.grid.text(part, PartNameColumn)});
+        refuse({u"Part %1 has no name that a file can have: '%2'./nNothing was written."_s,
+                {QString::number(part), m_parts.page.grid.text(part, PartNameColumn)}});
         return;
     }
     m_parts.writer.CreateSubFile(
@@ -171,9 +171,9 @@ void SplitOutput::showPart()
     lines.append(QString()); // each line has its end
     txtPreview.setText(lines.join(u"\r\n"_s));
     if (path.isEmpty()) {
-        refuse(u"There is no preview of part %1."_s, {QString::number(part)});
+        refuse({u"There is no preview of part %1."_s, {QString::number(part)}});
     } else if (!status.ok()) {
-        refuse(u"The preview '%1' can't be read./n%2"_s, {path, status.text});
+        refuse({u"The preview '%1' can't be read./n%2"_s, {path}, status.text});
     }
 }
 
@@ -184,9 +184,9 @@ QString SplitOutput::partTitle(int part) const
     return m_parts.page.partName(part) % u" [" % name % u']';
 }
 
-void SplitOutput::refuse(const QString &text, const QStringList &values)
+void SplitOutput::refuse(const MessageText &text)
 {
-    m_parts.messages.ShowMessage({text, values}, Answer::Ok, u"ok"_s,
+    m_parts.messages.ShowMessage(text, Answer::Ok, u"ok"_s,
                                  m_parts.language.text(LangGroup::Report, 13));
 }
 

@@ -12,6 +12,7 @@ class Folders;
 class Form;
 class LanguageTable;
 class Messages;
+struct MessageText;
 class PartitionList;
 class SubtitleDocument;
 class SubtitleWriter;
@@ -58,7 +59,7 @@ private:
     /// The first part with a name that no file can have, 0 for none.
     [[nodiscard]] int badPart() const;
     [[nodiscard]] int format() const;
-    void refuse(const QString &text, const QStringList &values = {});
+    void refuse(const MessageText &text);
 
     Parts m_parts;
     bool m_previewing = false;

@@ -6,6 +6,7 @@
 #include "core/edit_history.h"
 #include "core/editor_page.h"
 #include "core/font_lists.h"
+#include "core/language.h"
 #include "core/messages.h"
 #include "core/text.h"
 #include "core/time_page.h"
@@ -25,14 +26,15 @@ namespace {
 
 enum ActionCode { InsertCode = 501, DeleteCode = 502, ChangeCode = 504 };
 
-/// The cells of a row that aren't empty: " [Cel " + name of the cell + ":=" + text + "]" each.
+/// The cells of a row that aren't empty: each with its name and its text.
 template <class CellName>
-QString cellsOf(const Grid &grid, int row, CellName cellName)
+QString cellsOf(const Grid &grid, int row, const LanguageTable &language, CellName cellName)
 {
+    const QString pattern = language.ownText(u"[Cel %1:=%2]"_s);
     QString cells;
     for (int col = StartColumn; col <= LastTextColumn; ++col) {
         if (const QString &text = grid.text(row, col); !text.isEmpty()) {
-            cells += u" [Cel " % cellName(col) % u":=" % text % u']';
+            cells += u' ' % pattern.arg(cellName(col), text);
         }
     }
     return trimmed(cells).toString();
@@ -161,9 +163,10 @@ bool BasicEdit::beginDelete()
     Grid &grid = m_editor.grdSubEdit;
     const int row = grid.row();
     const int top = grid.topRow();
-    m_parts.history.LogHistory(u"Row %1 deleted"_s.arg(row), cellsOf(grid, row, [row](int col) {
-                                   return QString(u"%1,%2"_s.arg(row).arg(col));
-                               }));
+    const LanguageTable &language = m_parts.language;
+    m_parts.history.LogHistory(
+        language.ownText(u"Row %1 deleted"_s).arg(row),
+        cellsOf(grid, row, language, [row](int col) { return u"%1,%2"_s.arg(row).arg(col); }));
     const bool deleted = row >= 1 && row <= document.subtitleCount();
     m_deletions.push_back({.top = top, .deleted = deleted});
     if (!deleted) {
@@ -269,9 +272,10 @@ void BasicEdit::changeCell()
     Grid &grid = m_editor.grdSubEdit;
     const int row = grid.row();
     const int col = grid.col();
+    const LanguageTable &language = m_parts.language;
     m_parts.history.LogHistory(
-        u"Cel %1, %2 changed"_s.arg(col).arg(row),
-        cellsOf(grid, row, [row](int cell) { return QString(u"%1,%2"_s.arg(cell).arg(row)); }));
+        language.ownText(u"Cel %1, %2 changed"_s).arg(col).arg(row),
+        cellsOf(grid, row, language, [row](int cell) { return u"%1,%2"_s.arg(cell).arg(row); }));
     if (row >= 1 && row < grid.rows() - 1) {
         QString text = trimmed(m_editor.rtfSubEditBasic.text()).toString();
         if (col >= FirstTextColumn) {

@@ -8,6 +8,7 @@ namespace kavro {
 
 class DiagnoseHost;
 class EditHistory;
+class LanguageTable;
 class Messages;
 class SubtitleDocument;
 struct ActionTrace;
@@ -25,6 +26,7 @@ public:
         EditHistory &history;
         DiagnoseHost &diagnose;
         Messages &messages;
+        const LanguageTable &language;
         ActionTrace &trace;
     };
 

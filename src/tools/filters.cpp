@@ -4,6 +4,7 @@
 #include "core/document.h"
 #include "core/edit_history.h"
 #include "core/editor_page.h"
+#include "core/language.h"
 #include "core/text.h"
 
 #include <QStringBuilder>
@@ -76,13 +77,14 @@ std::array<QString, textColumns> brokenLines(QStringView text, double max)
 } // namespace
 
 Filters::Filters(Form &frmMain, SubtitleDocument &document, EditHistory &history,
-                 ActionTrace &trace)
+                 const LanguageTable &language, ActionTrace &trace)
     : Check4(frmMain, u"Check4"_s),
       txtMaxCount(frmMain, u"txtMaxCount"_s),
       lblMaxCount(frmMain, u"lblMaxCount"_s),
       Command30(frmMain, u"Command30"_s),
       m_document(document),
       m_history(history),
+      m_language(language),
       m_trace(trace)
 {
     txtMaxCount.setText(u"40"_s);
@@ -122,12 +124,13 @@ void Filters::logRun()
     QString action;
     QString detail;
     if (Check4[TurnText].isOn()) {
-        action = u"Reversed hebrew"_s;
-        detail = u"[No details]"_s;
+        action = m_language.ownText(u"Reversed hebrew"_s);
+        detail = m_language.ownText(u"[No details]"_s);
     }
     if (Check4[BreakLines].isOn()) {
-        action += action.isEmpty() ? u"Corrected long lines"_s : u", Corrected long lines"_s;
-        detail += u" [Correct amount:="_s + txtMaxCount.text() + u']';
+        action += action.isEmpty() ? QString() : u", "_s;
+        action += m_language.ownText(u"Corrected long lines"_s);
+        detail += u' ' + m_language.ownText(u"[Correct amount:=%1]"_s).arg(txtMaxCount.text());
     }
     if (!detail.isEmpty()) {
         m_history.LogHistory(action, detail);

@@ -6,6 +6,7 @@
 namespace kavro {
 
 class EditHistory;
+class LanguageTable;
 class SubtitleDocument;
 struct ActionTrace;
 
@@ -13,7 +14,8 @@ struct ActionTrace;
 class Filters
 {
 public:
-    Filters(Form &frmMain, SubtitleDocument &document, EditHistory &history, ActionTrace &trace);
+    Filters(Form &frmMain, SubtitleDocument &document, EditHistory &history,
+            const LanguageTable &language, ActionTrace &trace);
 
     ControlArray<CheckBox, 0, 1> Check4; ///< 0 turns texts around, 1 breaks long lines
     TextBox txtMaxCount;                 ///< characters a line may have before it is broken
@@ -28,6 +30,7 @@ private:
 
     SubtitleDocument &m_document;
     EditHistory &m_history;
+    const LanguageTable &m_language;
     ActionTrace &m_trace;
 };
 

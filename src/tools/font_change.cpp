@@ -5,6 +5,7 @@
 #include "core/edit_history.h"
 #include "core/editor_page.h"
 #include "core/font_lists.h"
+#include "core/language.h"
 
 namespace kavro {
 
@@ -16,8 +17,9 @@ constexpr int fontCode = 514;
 
 } // namespace
 
-FontChange::FontChange(SubtitleDocument &document, EditHistory &history, ActionTrace &trace)
-    : m_document(document), m_history(history), m_trace(trace)
+FontChange::FontChange(SubtitleDocument &document, EditHistory &history,
+                       const LanguageTable &language, ActionTrace &trace)
+    : m_document(document), m_history(history), m_language(language), m_trace(trace)
 {
     Button &button = m_document.fonts.Command42;
     QObject::connect(&button, &Button::clicked, &button, [this] { changeFont(); });
@@ -30,7 +32,8 @@ void FontChange::changeFont()
     const SubtitleDocument::Act act(m_document);
     const QString font = m_document.fonts.Combo9[0].selectedText();
     const QString style = m_document.fonts.Combo9[1].selectedText();
-    m_history.LogHistory(u"Changed Font"_s, u"[From: %1] [To: %2]"_s.arg(font, style));
+    m_history.LogHistory(m_language.ownText(u"Changed Font"_s),
+                         m_language.ownText(u"[From: %1] [To: %2]"_s).arg(font, style));
 
     const qsizetype row = m_document.editor.grdSubEdit.row();
     QStringList entries = m_document.editor.lstFont.items();

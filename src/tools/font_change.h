@@ -3,6 +3,7 @@
 namespace kavro {
 
 class EditHistory;
+class LanguageTable;
 class SubtitleDocument;
 struct ActionTrace;
 
@@ -11,13 +12,15 @@ struct ActionTrace;
 class FontChange
 {
 public:
-    FontChange(SubtitleDocument &document, EditHistory &history, ActionTrace &trace);
+    FontChange(SubtitleDocument &document, EditHistory &history, const LanguageTable &language,
+               ActionTrace &trace);
 
 private:
     void changeFont(); ///< Command42
 
     SubtitleDocument &m_document;
     EditHistory &m_history;
+    const LanguageTable &m_language;
     ActionTrace &m_trace;
 };
 

@@ -5,6 +5,7 @@
 #include "core/edit_history.h"
 #include "core/editor_page.h"
 #include "core/frame_rate_page.h"
+#include "core/language.h"
 #include "core/text.h"
 #include "core/timecode.h"
 #include "tools/row_range.h"
@@ -69,9 +70,10 @@ void FrameRateConversion::convert()
 {
     m_trace.RecordAction({}, 548);
     const SubtitleDocument::Act act(m_document);
-    m_history.LogHistory(u"Changed Framerate"_s,
-                         u"[From: " % m_rates.Combo14[0].label()->caption() % u"] [To: "
-                             % m_rates.Combo14[1].label()->caption() % u']');
+    m_history.LogHistory(
+        m_language.ownText(u"Changed Framerate"_s),
+        m_language.ownText(u"[From: %1] [To: %2]"_s)
+            .arg(m_rates.Combo14[0].label()->caption(), m_rates.Combo14[1].label()->caption()));
     const double from = Val(m_rates.Combo14[0].selectedText());
     const double to = Val(m_rates.Combo14[1].selectedText());
     if (from == 0 || to == 0) {

@@ -50,11 +50,11 @@ void stepRange(SubtitleDocument &document, RangeFields fields, Label &number)
     number.setCaption(QString::number(document.curNode));
 }
 
-QString rangeDetail(const SubtitleDocument &document)
+QString rangeDetail(const SubtitleDocument &document, const LanguageTable &language)
 {
     const Grid &grid = document.editor.grdSubEdit;
-    return u"[Range: " % grid.text(1, StartColumn) % u" to "
-           % grid.text(grid.rows() - 2, StartColumn) % u']';
+    return language.ownText(u"[Range: %1 to %2]"_s)
+        .arg(grid.text(1, StartColumn), grid.text(grid.rows() - 2, StartColumn));
 }
 
 bool checkRange(const SubtitleDocument &document, const RowRange &range, int lastRow,

@@ -29,7 +29,7 @@ void stepRange(SubtitleDocument &document, RangeFields fields, Label &number);
 
 /// "[Range: " + start of the first subtitle + " to " + start of the last one + "]", for the
 /// history. It tells the whole document, whatever the range is.
-QString rangeDetail(const SubtitleDocument &document);
+QString rangeDetail(const SubtitleDocument &document, const LanguageTable &language);
 
 /// Whether the rows of a range may be written, those from 1, behind the header, to `lastRow`; tells
 /// the person when not. Where the range holds no row its ends may be any numbers of 16 bits.

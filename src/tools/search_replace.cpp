@@ -167,8 +167,9 @@ void SearchReplace::replaceAll()
     SubtitleDocument &document = m_parts.document;
     Grid &grid = document.editor.grdSubEdit;
     const SubtitleDocument::Act act(document);
-    m_parts.history.LogHistory(
-        u"Replace"_s, u"[Original: %1] [To: %2]"_s.arg(rtfSearch.text(), rtfReplace.text()));
+    m_parts.history.LogHistory(m_parts.language.ownText(u"Replace"_s),
+                               m_parts.language.ownText(u"[Original: %1] [To: %2]"_s)
+                                   .arg(rtfSearch.text(), rtfReplace.text()));
     const QString what = lowerCase(rtfSearch.text());
     bool found = false;
     {

@@ -54,9 +54,10 @@ void Shift::shiftRange()
 {
     m_trace.RecordAction({}, 518);
     const SubtitleDocument::Act act(m_document);
-    m_history.LogHistory(u"Script Shifted"_s, rangeDetail(m_document) % u" [Duration: "
-                                                  % rtfShiftDuration.text() % u"] [Direction: "
-                                                  % Combo2.label()->caption() % u']');
+    m_history.LogHistory(m_language.ownText(u"Script Shifted"_s),
+                         rangeDetail(m_document, m_language) % u' '
+                             % m_language.ownText(u"[Duration: %1] [Direction: %2]"_s)
+                                   .arg(rtfShiftDuration.text(), Combo2.label()->caption()));
     Grid &grid = m_document.editor.grdSubEdit;
     const RowRange range = rangeOf(m_document, RangeFields::Shift);
     if (!checkRange(m_document, range, grid.rows() - 1, m_messages, m_language)) {

@@ -6,6 +6,7 @@
 #include "core/document.h"
 #include "core/edit_history.h"
 #include "core/editor_page.h"
+#include "core/language.h"
 #include "core/time_page.h"
 #include "core/timecode.h"
 #include "tools/row_range.h"
@@ -64,8 +65,9 @@ void Stretch::stretchRange()
     const SubtitleDocument::Act act(m_document);
     const QString first = m_document.times.rtfStretchFirst.text();
     const QString last = m_document.times.rtfStretchLast.text();
-    m_history.LogHistory(u"Script Stretched"_s, rangeDetail(m_document) % u" [First: " % first
-                                                    % u"] [Last: " % last % u']');
+    m_history.LogHistory(m_language.ownText(u"Script Stretched"_s),
+                         rangeDetail(m_document, m_language) % u' '
+                             % m_language.ownText(u"[First: %1] [Last: %2]"_s).arg(first, last));
     const Grid &grid = m_document.editor.grdSubEdit;
     const RowRange range = rangeOf(m_document, RangeFields::Stretch);
     if (!checkRange(m_document, range, m_document.subtitleCount(), m_messages, m_language)) {

@@ -4,6 +4,7 @@
 #include "core/document.h"
 #include "core/edit_history.h"
 #include "core/editor_page.h"
+#include "core/language.h"
 #include "core/time_page.h"
 #include "core/timecode.h"
 #include "tools/row_range.h"
@@ -76,9 +77,9 @@ void TimeChange::changeLine()
     }
     const QString start = m_document.times.rtfTimeStart.text();
     const QString end = m_document.times.rtfTimeEnd.text();
-    m_history.LogHistory(u"Line Shifted/Stretched"_s, u"[Duration: " % rtfDurShift.text()
-                                                          % u"] [Start: " % start % u"] [End: "
-                                                          % end % u']');
+    m_history.LogHistory(m_language.ownText(u"Line Shifted/Stretched"_s),
+                         m_language.ownText(u"[Duration: %1] [Start: %2] [End: %3]"_s)
+                             .arg(rtfDurShift.text(), start, end));
     grid.setText(grid.row(), StartColumn, start);
     grid.setText(grid.row(), EndColumn, end);
     m_document.markEdited();

@@ -26,7 +26,7 @@ Shell::Shell(FileStore &store, Folders &folders)
                  .clock = m_clock,
                  .random = m_random},
                 store, folders),
-      m_translator(m_program.languagePack.ownTexts)
+      m_translator(m_program.language.ownTexts)
 {
     m_messages.form = &m_program.frmMessageBox;
     m_files.documentFormat = [this] { return m_program.document.curFormatId; };

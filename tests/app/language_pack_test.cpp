@@ -57,13 +57,6 @@ TEST_F(Packs, DesignCaptionsComeFromTheTable)
     EXPECT_TRUE(program().languagePack.sysVarHelp[27].startsWith(u"Integer:="_s));
 }
 
-TEST_F(Packs, NoPackIsNoMessage)
-{
-    loadFile({});
-    EXPECT_TRUE(run.takeMessages().isEmpty());
-    EXPECT_EQ(program().language.languageName, u"English"_s);
-}
-
 TEST_F(Packs, EntriesReachEveryKindOfTarget)
 {
     loadBody(u"[Edit Basic]\n1,Weg^Een regel weg\n"
@@ -118,6 +111,8 @@ TEST_F(Packs, MessagesAreSaidInTheLanguageOfThePack)
     loadBody(u"[Messages]\n%1,^\n"_s.arg(row.index));
     EXPECT_EQ(say(english, english), u"Mis/n0: Mis\r\n0"_s) << "an empty text is none";
     EXPECT_EQ(say(u"a macro's %1"_s, u"t"_s), u"t: a macro's Warning"_s) << "values stay";
+    messages.ShowMessage({u"%1: %2"_s, {english}, english}, Answer::Ok, u"ok"_s, {});
+    EXPECT_EQ(run.doors.messages.shown.takeLast().text, english + u": Mis/n0"_s) << "a fault";
 }
 
 TEST_F(Packs, OddLinesAreReadAsTheirSignsStand)

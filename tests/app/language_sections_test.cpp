@@ -1,6 +1,7 @@
 #include "app/language_sections.h"
 
 #include "core/lang_line.h"
+#include "formats/file_filters.h"
 #include "tests/app/language_entries.h"
 #include "tests/support/test_program.h"
 
@@ -13,6 +14,9 @@
 #include <QStandardPaths>
 
 #include <gtest/gtest.h>
+
+#include <cerrno>
+#include <system_error>
 
 namespace kavro::test {
 namespace {
@@ -49,7 +53,7 @@ TEST(LanguageSections, StandInOneOrder)
                 << name << " entry " << row.index << " lies in a group";
         }
     }
-    EXPECT_EQ(names.size(), 48);
+    EXPECT_EQ(names.size(), 52);
 }
 
 TEST(LanguageSections, NoControlHasTwoCaptions)
@@ -152,35 +156,62 @@ TEST(LanguageSections, CoverEveryTextThatAViewWrites)
     EXPECT_EQ((covered - written).values().join(u", "_s), QString()) << "written by no view";
 }
 
-/// The sources below the windows, with literals that stand one behind the other joined.
+/// The sources but those of the command line, with literals that stand one behind the other joined.
 QString programSources()
 {
     static const QRegularExpression seam(u"\"(_s)?\\s*\\n\\s*u?\""_s);
     QString text;
-    QDirIterator files(source + u"/src"_s, {u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator files(source + u"/src"_s, {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
+                       QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString path = files.next();
-        if (!path.contains(u"/src/ui/"_s) && !path.contains(u"/language_sections"_s)) {
+        if (!path.contains(u"/language_sections"_s) && !path.contains(u"/src/cli/"_s)) {
             text += readText(path).remove(seam);
         }
     }
     return text;
 }
 
-TEST(LanguageSections, CoverTheMessagesOfTheProgram)
+/// Faults that the system words: Qt's two, and those of the kinds that a file can meet.
+QStringList systemFaults()
+{
+    QStringList texts{u"Unknown error"_s, u"file to open is a directory"_s};
+    for (const int code :
+         {EPERM,  ENOENT, EIO,    ENXIO,     EACCES,   EBUSY,     EEXIST,      ENODEV, ENOTDIR,
+          EISDIR, ENFILE, EMFILE, ETXTBSY,   EFBIG,    ENOSPC,    EROFS,       EMLINK, EPIPE,
+          ELOOP,  ESTALE, EDQUOT, ETIMEDOUT, ENOTCONN, ENOTEMPTY, ENAMETOOLONG})
+    {
+        texts.append(QString::fromStdString(std::generic_category().message(code)));
+    }
+    return texts;
+}
+
+TEST(LanguageSections, CoverWhatTheProgramSays)
 {
     const QString program = programSources();
     const QString nothing = u"/nNothing was changed."_s;
+    const QStringList system = systemFaults();
+    const QString filters = fileFilters().join(u' ');
     QSet<QString> covered;
-    for (const LanguageRow &row : languageSection(u"Messages")->rows) {
-        const QString text = row.caption.toString();
-        covered.insert(text);
-        const QString literal = text.endsWith(nothing) ? text.chopped(nothing.size()) : text;
-        EXPECT_TRUE(program.contains(u'"' + literal + u'"'))
-            << "said nowhere: " << qPrintable(literal);
+    for (const LanguageSection &section : languageSections()) {
+        for (const LanguageRow &row : section.rows) {
+            const QString text = row.caption.toString();
+            if (section.target == LanguageTarget::Texts) {
+                covered.insert(text);
+                const QString literal =
+                    text.endsWith(nothing) ? text.chopped(nothing.size()) : text;
+                EXPECT_TRUE(program.contains(u'"' + literal + u'"') || system.contains(text)
+                            || filters.contains(text))
+                    << "said nowhere: " << qPrintable(literal);
+            }
+        }
+    }
+    for (const QString &text : system) {
+        EXPECT_TRUE(covered.contains(text)) << qPrintable(text);
     }
     const QRegularExpression call(
-        u"(ShowMessage|showRefusal|refuse)\\(\\s*\\{?\\s*u\"([^\"]*)\""_s);
+        u"(ShowMessage|showRefusal|refuse|ownText|fail|FileFault::\\w+,|"
+        "\\.text = )[({]*\\s*\\{?(?:FileFault::\\w+,)?\\s*u\"([^\"]*)\""_s);
     int said = 0;
     for (const auto &found : call.globalMatch(program)) {
         ++said;
@@ -188,7 +219,11 @@ TEST(LanguageSections, CoverTheMessagesOfTheProgram)
         EXPECT_TRUE(covered.contains(found.captured(2) + (refusal ? nothing : QString())))
             << qPrintable(found.captured(2));
     }
-    EXPECT_GT(said, 20);
+    EXPECT_GT(said, 80);
+    const QRegularExpression text(u"u\"([^\"]* [^\"]*)\""_s);
+    for (const auto &found : text.globalMatch(readText(source + u"/src/diagnose/findings.cpp"_s))) {
+        EXPECT_TRUE(covered.contains(found.captured(1))) << qPrintable(found.captured(1));
+    }
 }
 
 TEST(LanguageSections, CoverEveryCaption)
@@ -257,49 +292,18 @@ TEST_P(ShippedPack, IsUpToDate)
     EXPECT_TRUE(readText(packFile) == expected) << "run scripts/langpack all";
 }
 
-TEST_P(ShippedPack, HasEveryTextAndNoOther)
-{
-    QHash<QString, QString> texts = textsOf(sourceFile);
-    for (const LanguageSection &section : languageSections()) {
-        for (const LanguageEntry &entry : entriesOf(section)) {
-            const QString key = u"[%1]%2"_s.arg(section.name).arg(entry.index);
-            const QString text = texts.take(key);
-            EXPECT_EQ(text.section(u'^', 0, 0).isEmpty(), entry.caption.isEmpty())
-                << "caption of " << qPrintable(key);
-            EXPECT_EQ(text.section(u'^', 1).isEmpty(), entry.tip.isEmpty())
-                << "tool tip of " << qPrintable(key);
-            for (const QString &sign : {u"/n"_s, u"%1"_s, u"%2"_s, u"%3"_s}) {
-                EXPECT_EQ(text.count(sign), entry.caption.count(sign)) << qPrintable(key);
-            }
-        }
-    }
-    EXPECT_EQ(texts.keys().join(u' '), QString()) << "entries that set nothing";
-}
-
 /// What has to stand in a text whatever the language: variables, blanks at the ends that part it
 /// from what is put behind it, the sign that ends it, types and values ahead of a description.
 QStringList fixedParts(const QString &text)
 {
     static const QRegularExpression fixed(
-        u"^ +| +$|:(?=\\s*$)|sysVar\\[[0-9]+|%[0-9]|"
+        u"^ +| +$|:(?=\\s*$)|sysVar\\[[0-9]+|%[0-9a-z]|/n|"
         u"^\\w+:=|#|(True|False)(?=[:=])|-?[0-9]+:?=|\\.\\.[^ ]+"_s);
     QStringList parts;
     for (auto found = fixed.globalMatch(text); found.hasNext();) {
         parts.append(found.next().captured());
     }
     return parts;
-}
-
-TEST_P(ShippedPack, KeepsWhatIsNoLanguage)
-{
-    const QHash<QString, QString> texts = textsOf(sourceFile);
-    for (const LanguageSection &section : languageSections()) {
-        for (const LanguageEntry &entry : entriesOf(section)) {
-            const QString key = u"[%1]%2"_s.arg(section.name).arg(entry.index);
-            EXPECT_EQ(fixedParts(texts[key].section(u'^', 0, 0)), fixedParts(entry.caption))
-                << qPrintable(key);
-        }
-    }
 }
 
 /// The words that a language shares with English, in small letters; no text of several words is.
@@ -312,39 +316,28 @@ const QHash<QString, QString> sharedWords{
     {u"Spanish"_s, u"col editor error macro no panel variables"_s},
 };
 
-TEST_P(ShippedPack, LeavesNothingInEnglish)
+TEST_P(ShippedPack, HasEveryTextInItsOwnWords)
 {
     static const QRegularExpression word(u"\\p{L}{2,}"_s);
     static const QRegularExpression ends(u"^\\W+|\\W+$"_s);
     const QStringList shared = sharedWords[name].split(u' ');
-    const QHash<QString, QString> texts = textsOf(sourceFile);
+    QHash<QString, QString> texts = textsOf(sourceFile);
     for (const LanguageSection &section : languageSections()) {
         for (const LanguageEntry &entry : entriesOf(section)) {
             const QString key = u"[%1]%2"_s.arg(section.name).arg(entry.index);
-            const QString text = texts[key].section(u'^', 0, 0);
-            if (word.match(text).hasMatch() && text == entry.caption) {
-                EXPECT_TRUE(shared.contains(QString(text).remove(ends).toLower()))
-                    << qPrintable(key + u' ' + text);
-            }
-            if (!entry.tip.isEmpty()) {
-                EXPECT_NE(texts[key].section(u'^', 1), entry.tip) << qPrintable(key);
-            }
+            const QString line = texts.take(key);
+            const QString text = line.section(u'^', 0, 0);
+            const QString tip = line.section(u'^', 1);
+            EXPECT_EQ(text.isEmpty(), entry.caption.isEmpty()) << "caption " << qPrintable(key);
+            EXPECT_EQ(tip.isEmpty(), entry.tip.isEmpty()) << "tool tip " << qPrintable(key);
+            EXPECT_EQ(fixedParts(text), fixedParts(entry.caption)) << qPrintable(key);
+            EXPECT_TRUE(text != entry.caption || !word.match(text).hasMatch()
+                        || shared.contains(QString(text).remove(ends).toLower()))
+                << qPrintable(key + u' ' + text);
+            EXPECT_TRUE(tip != entry.tip || tip.isEmpty()) << qPrintable(key);
         }
     }
-}
-
-TEST_P(ShippedPack, LoadsAndFindsItsHelp)
-{
-    TestProgram run;
-    run->languagePack.setDesignCaptions();
-    run->settings.languageFile = packFile;
-    run->languagePack.LoadLanguage();
-    EXPECT_TRUE(run.takeMessages().isEmpty());
-    EXPECT_TRUE(QFile::exists(languages + u"Help/"_s + run->language.languageFolder));
-    const QHash<QString, QString> texts = textsOf(sourceFile);
-    EXPECT_EQ(run->editor.Command11.caption() + u'^' + run->editor.Command11.toolTip(),
-              texts[u"[Edit Basic]1"_s]);
-    EXPECT_EQ(run->language.text(LangGroup::Common, 39) + u'^', texts[u"[Other]39"_s]);
+    EXPECT_EQ(texts.keys().join(u' '), QString()) << "entries that set nothing";
 }
 
 /// What a control shows of an entry: its caption, or that of the tab.
@@ -358,20 +351,29 @@ QString shownBy(const Control &control, const LanguageRow &row)
            + control.toolTip();
 }
 
-TEST_P(ShippedPack, StandsOnEveryControlOfARunningProgram)
+/// A program that runs in the language of a pack.
+void startIn(TestProgram &run, const QString &packFile)
 {
-    TestProgram run;
     QStringList lines = settingsWith(19, 1).split(u'\n');
     lines[19] = packFile;
     run.writeApp(u"System/Settings/set.sdf"_s, lines.join(u'\n'));
     run.start();
     run->splash.ExitfrmSplash();
+}
+
+TEST_P(ShippedPack, StandsOnEveryControlOfARunningProgram)
+{
+    TestProgram run;
+    startIn(run, packFile);
+    EXPECT_TRUE(run.takeMessages().isEmpty());
+    EXPECT_TRUE(QFile::exists(languages + u"Help/"_s + run->language.languageFolder));
     LoadRequest request{.path = run.write(u"film.srt"_s, twoSubtitles())};
     run->loader.LoadSubFile(request);
     for (int tab = 0; tab < run->navigation.tabMain.count(); ++tab) {
         run->navigation.tabMain.pick(tab);
     }
     const QHash<QString, QString> texts = textsOf(sourceFile);
+    EXPECT_EQ(run->language.text(LangGroup::Common, 39) + u'^', texts[u"[Other]39"_s]);
     int compared = 0;
     for (const LanguageSection &section : languageSections()) {
         for (const LanguageRow &row : section.rows) {
@@ -390,6 +392,38 @@ TEST_P(ShippedPack, StandsOnEveryControlOfARunningProgram)
         }
     }
     EXPECT_GT(compared, 150);
+}
+
+TEST_P(ShippedPack, TellsFaultsFindingsAndChanges)
+{
+    TestProgram run;
+    startIn(run, packFile);
+    const QHash<QString, QString> texts = textsOf(sourceFile);
+    const auto own = [&texts](const QString &key) { return texts[key].chopped(1); };
+
+    LoadRequest missing{.path = run.path(u"none.srt"_s)};
+    run->loader.LoadSubFile(missing);
+    EXPECT_TRUE(run.takeMessages().constLast().endsWith(own(u"[Faults]1"_s)));
+    run->fileCommands.window.List3.setSelected(0);
+    EXPECT_EQ(run->fileCommands.window.Label5.caption(), own(u"[Notes]6"_s));
+
+    LoadRequest request{.path = run.write(u"film.srt"_s,
+                                          u"1\r\n00:00:01,000 --> 00:00:05,000\r\nA\r\n\r\n"
+                                          "2\r\n00:00:04,000 --> 00:00:03,000\r\nB\r\n\r\n"_s)};
+    run->loader.LoadSubFile(request);
+    run->diagnose.GoDiagnose();
+    EXPECT_EQ(run->status.StatusBar1.panel(FindingsPanel), own(u"[Other]46"_s).arg(2));
+    const TreeView &tree = run->diagnose.tvDiag;
+    const int line = tree.find(u"err_ 2"_s);
+    ASSERT_NE(line, TreeView::noNode);
+    const QString word = own(u"[Window Texts]20"_s);
+    EXPECT_EQ(tree.node(line).text, word + u" 0002"_s);
+    EXPECT_TRUE(own(u"[Findings]27"_s).startsWith(word + u" %c"_s)) << "a click looks for the row";
+    run->diagnose.tvDiag.click(line);
+    EXPECT_EQ(run->editor.grdSubEdit.row(), 2);
+
+    run->editor.Command11.click();
+    EXPECT_TRUE(run->history.List1.items().constLast().endsWith(own(u"[Changes]2"_s).arg(2)));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ShippedPack, ::testing::ValuesIn(shippedPacks()),

@@ -2,6 +2,7 @@
 
 #include "controls/form.h"
 #include "core/action_trace.h"
+#include "core/language.h"
 #include "core/macro_variables.h"
 
 #include <gtest/gtest.h>
@@ -50,7 +51,8 @@ protected:
     Window window;
     ActionTrace trace;
     MacroVariables variables;
-    Messages messages{form, window, trace, variables};
+    LanguageTable language;
+    Messages messages{form, window, language, trace, variables};
 };
 
 TEST_F(MessagesTest, OnlyTheTemplateIsExpanded)

@@ -177,7 +177,7 @@ struct DocumentFixture
     PlayerPage player{frmMain};
     PartitionPage partition{frmMain};
     SettingsPage settings{frmSettings};
-    Messages messages{frmMessageBox, messageWindow, trace, variables};
+    Messages messages{frmMessageBox, messageWindow, language, trace, variables};
     ControlWindow control{frmControl, settings};
     SubtitleDocument document{editor, times, fonts, player, settings, language, trace};
     CountedScan diagnose;

@@ -88,6 +88,7 @@ protected:
                          .history = history,
                          .diagnose = scan,
                          .messages = messages,
+                         .language = language,
                          .trace = trace}};
 };
 

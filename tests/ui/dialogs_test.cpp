@@ -1,4 +1,5 @@
 #include "controls/text_box.h"
+#include "core/language.h"
 #include "core/messages.h"
 #include "tests/support/test_program.h"
 #include "ui/control_window_view.h"
@@ -118,7 +119,8 @@ protected:
     MessageDialogs window;
     ActionTrace trace;
     MacroVariables variables;
-    Messages messages{form, window, trace, variables};
+    LanguageTable language;
+    Messages messages{form, window, language, trace, variables};
 };
 
 TEST_F(RealMessages, ButtonAnswers)
