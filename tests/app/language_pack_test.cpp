@@ -44,19 +44,6 @@ protected:
     TestProgram run;
 };
 
-TEST_F(Packs, DesignCaptionsComeFromTheTable)
-{
-    EXPECT_EQ(caption(u"Command11"), u"Delete"_s);
-    EXPECT_EQ(tip(u"Command11"), u"Deletes a line"_s);
-    EXPECT_EQ(tip(u"optFrameRate(3)"), u"Set framerate to 29.97 fps"_s);
-    EXPECT_EQ(caption(u"optFrameRate(3)"), u"29.970"_s) << "the rate itself is no text";
-    EXPECT_EQ(program().frmTip.caption(), u"Tip of the day"_s);
-    EXPECT_EQ(program().frmSettings.caption(), u"Settings"_s);
-    EXPECT_EQ(program().navigation.tabMain.tabToolTip(2), u"Edit the lines"_s);
-    EXPECT_EQ(program().languagePack.settingsNodeCaption[6], u"Audio"_s);
-    EXPECT_TRUE(program().languagePack.sysVarHelp[27].startsWith(u"Integer:="_s));
-}
-
 TEST_F(Packs, EntriesReachEveryKindOfTarget)
 {
     loadBody(u"[Edit Basic]\n1,Weg^Een regel weg\n"
@@ -78,6 +65,8 @@ TEST_F(Packs, EntriesReachEveryKindOfTarget)
     EXPECT_EQ(caption(u"Command11"), u"Weg"_s);
     EXPECT_EQ(tip(u"Command11"), u"Een regel weg"_s);
     EXPECT_EQ(caption(u"Command10"), u"Insert"_s);
+    EXPECT_EQ(tip(u"optFrameRate(3)"), u"Set framerate to 29.97 fps"_s);
+    EXPECT_EQ(caption(u"optFrameRate(3)"), u"29.970"_s) << "the rate itself is no text";
     EXPECT_EQ(program().navigation.tabMain.tabCaption(2), u"Bewerken"_s);
     EXPECT_EQ(program().navigation.tabMain.tabToolTip(2), u"Regels"_s);
     EXPECT_EQ(program().frmSettings.caption(), u"Keuzes"_s);
@@ -238,26 +227,6 @@ TEST_F(Packs, ScanListsPacksOfAnyFourZero)
     program().languagePack.ScanLanguageFiles();
     EXPECT_EQ(settings.List1.selected(), 0);
     EXPECT_TRUE(run.takeMessages().isEmpty());
-}
-
-TEST(PackAtStart, ReplacesTheTextsOfTheWindow)
-{
-    TestProgram run;
-    const QString pack =
-        run.writeApp(u"System/Language/test.lng"_s,
-                     scrambled(header
-                               + u"[Other]\n10,Begin^\n25,Normaal^\n39,Gereed^\n[Main Nodes]\n"
-                                 "4,Bestand^\n[Edit Basic]\n0,Voeg in^"_s));
-    run.writeApp(u"System/Settings/set.sdf"_s, QString(u" 0 \n"_s).repeated(11) + u" 2 \n"_s
-                                                   + QString(u" 0 \n"_s).repeated(6) + u" 1 \n"_s
-                                                   + pack + u"\n 1 \n 0 \n"_s);
-    run.start(run.write(u"film.srt"_s, twoSubtitles()));
-    EXPECT_EQ(run->document.gridColCaption[StartColumn], u"Begin"_s);
-    EXPECT_EQ(run->fonts.Combo9[1].item(0), u"Normaal"_s);
-    EXPECT_EQ(run->status.StatusBar1.panel(3), u"Gereed"_s);
-    EXPECT_EQ(run->editor.Command10.caption(), u"Voeg in"_s);
-    EXPECT_EQ(run->navigation.TV1.findText(u"Bestand"), run->navigation.TV1.find(u"file"_s));
-    EXPECT_EQ(run.rows().size(), 2);
 }
 
 } // namespace
