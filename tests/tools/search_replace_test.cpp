@@ -250,6 +250,10 @@ TEST_F(SearchReplaceTest, SearchAgainGoesOnAndNeverReplaces)
     EXPECT_EQ(run->trace.lastActionCode, -1);
 
     tool.rtfSearch.type(u"a"_s);
+    run->menu.mnuReplace.click();
+    EXPECT_TRUE(tool.rtfReplace.hasFocus()) << "there is something to replace";
+    run->menu.mnuSearch.click();
+    EXPECT_TRUE(tool.rtfSearch.hasFocus());
     again.click();
     EXPECT_EQ(current(), "1,3");
     EXPECT_EQ(run->trace.lastActionCode, 508);
@@ -274,7 +278,7 @@ TEST_F(SearchReplaceTest, MatchesAreCountedWhenTheTypingIsOver)
          },
          u"Matches: 2"_s},
         {[this] { grid.removeRow(1); }, u"Matches: 1"_s},
-        {[this] { grid.setText(2, 4, u"a"_s); }, u"Matches: 2"_s},
+        {[this] { grid.setText(2, LastTextColumn, u"a"_s); }, u"Matches: 2"_s},
         {[this] { tool.rtfSearch.type(u"q"_s); }, u"Matches: 0"_s},
     };
     fill({u"1|2|a A|a"_s, u"3|4|b"_s});
