@@ -4,7 +4,7 @@
 set -euo pipefail
 kavro=$1
 folder=$(mktemp -d)
-trap 'kill -9 ${program:-} ${screen:-} 2>/dev/null || true; rm -rf "$folder"' EXIT
+trap 'kill -9 ${program:-} ${screen:-} 2>/dev/null || true; rm -rf "$folder" || true' EXIT
 
 until_true() { # COMMAND...: waits for it, a minute at most
     local tries
