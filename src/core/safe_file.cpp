@@ -148,6 +148,8 @@ FileStatus FileStore::copy(const QString &from, const QString &to)
     FileStatus status;
     while (status.ok() && source.error() == QFileDevice::NoError && !source.atEnd()) {
         const QByteArray part = source.read(qint64{flushLength});
+        if (part.isEmpty())
+            break; // a fault of the disk, told below
         const qint64 taken = take(part.size());
         if (!writeAll(copy, part.constData(), taken))
             status = faultOf(copy);
