@@ -10,6 +10,7 @@ inline QString versionName()
     return QStringLiteral("Kavro");
 }
 
+// The build reads these three for the packages.
 constexpr int versionMajor = 4;
 constexpr int versionMinor = 0;
 constexpr int versionRevision = 0;

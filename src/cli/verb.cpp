@@ -36,11 +36,6 @@ QString optionLine(const QCommandLineOption &option)
 
 } // namespace
 
-QString versionLine()
-{
-    return u"%1 %2.%3"_s.arg(versionName()).arg(versionMajor).arg(versionMinor);
-}
-
 ExitStatus Verb::run(const QStringList &arguments, const Streams &streams)
 {
     const QList<QCommandLineOption> all = options() + commonOptions();
@@ -52,7 +47,7 @@ ExitStatus Verb::run(const QStringList &arguments, const Streams &streams)
         return ExitStatus::Done;
     }
     if (parser.isSet(u"version"_s)) {
-        writeLine(streams.out, versionLine());
+        writeLine(streams.out, titleWithVersion());
         return ExitStatus::Done;
     }
     if (!read)

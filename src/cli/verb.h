@@ -53,7 +53,4 @@ private:
     Text m_text;
 };
 
-/// The line that `--version` prints.
-QString versionLine();
-
 } // namespace kavro

@@ -1,5 +1,6 @@
 #include "cli/verbs.h"
 
+#include "app/version.h"
 #include "cli/verb_convert.h"
 #include "cli/verb_diagnose.h"
 #include "cli/verb_drive.h"
@@ -73,7 +74,7 @@ int runCommandLine(QStringList arguments, const Streams &streams)
         return static_cast<int>(ExitStatus::Done);
     }
     if (name == "--version"_L1 || name == "-v"_L1) {
-        writeLine(streams.out, versionLine());
+        writeLine(streams.out, titleWithVersion());
         return static_cast<int>(ExitStatus::Done);
     }
     for (const auto &verb : verbs) {
