@@ -149,7 +149,6 @@ public:
     SearchReplace searchReplace;
     Filters filters;
     FontChange fontChange;
-    Clipboard clips;
     NodeTool nodeTool;
     PartitionList partitionList;
     SplitOutput splitOutput;
@@ -157,6 +156,7 @@ public:
     FileCommands fileCommands;
     SettingsFiles settingsFiles;
     Navigation navigation;
+    Clipboard clips;
     SplashWindow splash;
     TipWindow tips;
     WizardWindow wizard;
