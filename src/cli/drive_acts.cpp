@@ -69,11 +69,10 @@ Outcome actOnCell(Driven &driven, QStringView rest, void (Grid::*actOn)(int, int
 
 Outcome pressControl(Driven &driven, QStringView rest)
 {
-    const auto click = [](auto &control) {
+    return act<ClickControl>(driven, rest, [](ClickControl &control) {
         control.click();
         return true;
-    };
-    return act<Button, Label>(driven, rest, click, click);
+    });
 }
 
 Outcome setText(Driven &driven, QStringView rest)

@@ -106,8 +106,8 @@ public:
     using CaptionControl::CaptionControl;
 };
 
-/// A text on a form. Nearly all labels of the program can be clicked.
-class Label : public CaptionControl
+/// A caption that can be clicked.
+class ClickControl : public CaptionControl
 {
     Q_OBJECT
 
@@ -121,19 +121,22 @@ signals:
     void clicked();
 };
 
-/// A button or a menu entry.
-class Button : public CaptionControl
+/// A text on a form. Nearly all labels of the program can be clicked.
+class Label : public ClickControl
 {
     Q_OBJECT
 
 public:
-    using CaptionControl::CaptionControl;
+    using ClickControl::ClickControl;
+};
 
-    /// Act: a click.
-    void click() { emit clicked(); }
+/// A button or a menu entry.
+class Button : public ClickControl
+{
+    Q_OBJECT
 
-signals:
-    void clicked();
+public:
+    using ClickControl::ClickControl;
 };
 
 /// A box that holds 0 or 1.

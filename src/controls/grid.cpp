@@ -101,14 +101,7 @@ void Grid::insertRow(int at, const GridRow &cells)
     GridRow row = cells;
     row.resize(m_cols);
     m_rows.insert(place, row);
-    if (!m_colors.isEmpty()) {
-        Colors moved;
-        for (auto it = m_colors.cbegin(); it != m_colors.cend(); ++it) {
-            const auto [r, c] = it.key();
-            moved.insert({r >= place ? r + 1 : r, c}, it.value());
-        }
-        m_colors.swap(moved);
-    }
+    moveColors(place, 1);
     if (m_batches == 0) {
         emit rowsInserted(place, 1);
     }
@@ -120,16 +113,7 @@ void Grid::removeRow(int at)
         return;
     }
     m_rows.removeAt(at);
-    if (!m_colors.isEmpty()) {
-        Colors moved;
-        for (auto it = m_colors.cbegin(); it != m_colors.cend(); ++it) {
-            const auto [r, c] = it.key();
-            if (r != at) {
-                moved.insert({r > at ? r - 1 : r, c}, it.value());
-            }
-        }
-        m_colors.swap(moved);
-    }
+    moveColors(at, -1);
     if (m_batches == 0) {
         emit rowsRemoved(at, 1);
     }
@@ -216,6 +200,24 @@ void Grid::fit()
 {
     setCurrent(m_row, m_col);
     setTopRow(m_topRow);
+}
+
+// Those that would come before `first` belong to rows that went away.
+void Grid::moveColors(int first, int by)
+{
+    if (m_colors.isEmpty()) {
+        return;
+    }
+    Colors moved;
+    for (auto it = m_colors.cbegin(); it != m_colors.cend(); ++it) {
+        const auto [row, col] = it.key();
+        if (row < first) {
+            moved.insert(it.key(), it.value());
+        } else if (row + by >= first) {
+            moved.insert({row + by, col}, it.value());
+        }
+    }
+    m_colors.swap(moved);
 }
 
 void Grid::dropColorsFrom(int row)

@@ -22,6 +22,8 @@ class Grid : public Control
     Q_OBJECT
 
 public:
+    /// @param rows  header included; fewer than one count as the header alone
+    /// @param cols  one or more, the same for good
     Grid(Form &form, const QString &name, int rows, int cols);
 
     [[nodiscard]] int rows() const { return static_cast<int>(m_rows.size()); }
@@ -50,8 +52,10 @@ public:
     /// Lets `change` write the rows themselves, the fast way to change many; rows keep their
     /// columns, and the header stays. Colours stay where they are. Raises one `reset`.
     void rewrite(const std::function<void(QList<GridRow> &rows)> &change);
-    /// Before row `at`; colours move along.
+    /// Before row `at`, cut to 1 ... rows; colours move along. `cells` is brought to the grid's
+    /// columns.
     void insertRow(int at, const GridRow &cells = {});
+    /// Nothing for the header and outside the table; colours move along.
     void removeRow(int at);
     void setRow(int row) { setCurrent(row, m_col); }
     void setCol(int col) { setCurrent(m_row, col); }
@@ -99,6 +103,7 @@ signals:
 
 private:
     void fit();
+    void moveColors(int first, int by);
     void dropColorsFrom(int row);
     void changed(int row, int col);
 

@@ -60,14 +60,6 @@ void Timer::setOn(bool on)
     }
 }
 
-void Timer::setInterval(int interval)
-{
-    if (m_interval != interval) {
-        m_interval = interval;
-        emit runChanged();
-    }
-}
-
 void Timer::fire()
 {
     if (m_on) {

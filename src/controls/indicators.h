@@ -86,7 +86,6 @@ public:
     [[nodiscard]] bool isOn() const { return m_on; }
     [[nodiscard]] int interval() const { return m_interval; }
     void setOn(bool on);
-    void setInterval(int interval);
     /// One tick, when it is on.
     void fire();
 
@@ -95,7 +94,7 @@ signals:
     void runChanged();
 
 private:
-    int m_interval;
+    const int m_interval;
     bool m_on = false;
 };
 

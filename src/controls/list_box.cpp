@@ -1,5 +1,7 @@
 #include "controls/list_box.h"
 
+#include <utility>
+
 namespace kavro {
 
 QString ListBox::item(int index) const
@@ -7,21 +9,20 @@ QString ListBox::item(int index) const
     return index >= 0 && index < count() ? m_items[index] : QString();
 }
 
-// Whoever hears of the new entries finds the selection in step with them.
-void ListBox::replaceItems(const QStringList &items, int selected)
+// The entries are new; whoever hears of them finds the selection in step.
+void ListBox::tellItems(int selected)
 {
-    const int before = m_selected;
-    m_items = items;
-    m_selected = selected;
+    const int before = std::exchange(m_selected, selected);
     emit itemsChanged();
-    if (m_selected != before && m_selected == selected) {
+    if (selected != before && m_selected == selected) {
         emit selectedChanged(m_selected);
     }
 }
 
 void ListBox::setItems(const QStringList &items)
 {
-    replaceItems(items, m_selected < items.size() ? m_selected : -1);
+    m_items = items;
+    tellItems(m_selected < count() ? m_selected : -1);
 }
 
 void ListBox::addItem(const QString &text)
@@ -36,9 +37,8 @@ void ListBox::insertItem(int at, const QString &text)
         addItem(text);
         return;
     }
-    QStringList items = m_items;
-    items.insert(at, text);
-    replaceItems(items, m_selected >= at ? m_selected + 1 : m_selected);
+    m_items.insert(at, text);
+    tellItems(m_selected >= at ? m_selected + 1 : m_selected);
 }
 
 void ListBox::setItem(int index, const QString &text)
@@ -54,16 +54,16 @@ void ListBox::removeItem(int index)
     if (index < 0 || index >= count()) {
         return;
     }
-    QStringList items = m_items;
-    items.removeAt(index);
+    m_items.removeAt(index);
     const int moved = m_selected > index ? m_selected - 1 : m_selected;
-    replaceItems(items, m_selected == index ? -1 : moved);
+    tellItems(m_selected == index ? -1 : moved);
 }
 
 void ListBox::clear()
 {
     if (!m_items.isEmpty()) {
-        replaceItems({}, -1);
+        m_items.clear();
+        tellItems(-1);
     }
 }
 

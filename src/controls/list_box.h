@@ -50,7 +50,7 @@ signals:
     void doubleClicked(int index);
 
 private:
-    void replaceItems(const QStringList &items, int selected);
+    void tellItems(int selected);
 
     QStringList m_items;
     int m_selected = -1;

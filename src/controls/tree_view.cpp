@@ -26,7 +26,7 @@ int TreeView::add(int parent, const QString &text, const QString &key)
 
 bool TreeView::has(int number) const
 {
-    return number >= 0 && number < m_nodes.size() && m_nodes.at(number).parent != goneNode;
+    return number >= 0 && number < m_nodes.size();
 }
 
 int TreeView::find(const QString &key) const
@@ -48,16 +48,6 @@ int TreeView::findText(QStringView text) const
     return noNode;
 }
 
-void TreeView::setText(int number, const QString &text)
-{
-    if (has(number) && m_nodes.at(number).text != text) {
-        m_nodes[number].text = text;
-        if (m_batches == 0) {
-            emit textChanged(number);
-        }
-    }
-}
-
 void TreeView::expand(int number)
 {
     if (has(number) && !m_nodes.at(number).expanded) {
@@ -68,44 +58,13 @@ void TreeView::expand(int number)
     }
 }
 
-void TreeView::forget(int number)
-{
-    const Node gone = m_nodes.at(number);
-    for (const int child : gone.children) {
-        forget(child);
-    }
-    if (!gone.key.isNull()) {
-        m_byKey.remove(gone.key.toLower());
-    }
-    m_nodes[number] = {
-        .key = {}, .text = {}, .parent = goneNode, .children = {}, .expanded = false};
-}
-
-void TreeView::remove(int number)
-{
-    if (!has(number)) {
-        return;
-    }
-    const int parent = m_nodes.at(number).parent;
-    (parent == noNode ? m_roots : m_nodes[parent].children).removeOne(number);
-    forget(number);
-    tellLoss();
-}
-
 void TreeView::clear()
 {
     m_nodes.clear();
     m_roots.clear();
     m_byKey.clear();
-    tellLoss();
-}
-
-void TreeView::tellLoss()
-{
-    const bool selectionLost = m_selected != noNode && !has(m_selected);
-    if (selectionLost) {
-        m_selected = noNode;
-    }
+    const bool selectionLost = m_selected != noNode;
+    m_selected = noNode;
     if (m_batches == 0) {
         emit reset();
     }

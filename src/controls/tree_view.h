@@ -7,7 +7,7 @@
 
 namespace kavro {
 
-/// A tree of texts. A node is named by its number, which stays until the node is removed.
+/// A tree of texts. A node is named by its number, which stays until the tree is cleared.
 class TreeView : public Control
 {
     Q_OBJECT
@@ -34,17 +34,14 @@ public:
     [[nodiscard]] int find(const QString &key) const;
     /// The first node with that text, from the top as the tree shows them, `noNode` for none.
     [[nodiscard]] int findText(QStringView text) const;
-    /// False for a number that was never given or whose node went away.
+    /// False for a number that wasn't given since the tree was cleared.
     [[nodiscard]] bool has(int number) const;
     /// The node must be there.
     [[nodiscard]] const Node &node(int number) const { return m_nodes.at(number); }
     [[nodiscard]] const QList<int> &roots() const { return m_roots; }
-    /// Nothing for a node that isn't there, as in the functions below.
-    void setText(int number, const QString &text);
-    /// Opens a node, so that what is below it shows.
+    /// Opens a node, so that what is below it shows. Nothing for a node that isn't there, as in the
+    /// functions below.
     void expand(int number);
-    /// Takes a node and all below it away.
-    void remove(int number);
     void clear();
     [[nodiscard]] int selected() const { return m_selected; }
     /// `noNode` takes the selection away.
@@ -67,19 +64,13 @@ public:
 
 signals:
     void added(int number);
-    void textChanged(int number);
     void expanded(int number);
-    /// Nodes went away, or anything may be different.
+    /// Anything may be different.
     void reset();
     void selectedChanged(int number);
     void clicked(int number);
 
 private:
-    void forget(int number);
-    void tellLoss();
-
-    static constexpr int goneNode = -2; ///< parent of a number whose node went away
-
     QList<Node> m_nodes;
     QList<int> m_roots;
     QHash<QString, int> m_byKey; ///< keys in lower case

@@ -9,28 +9,13 @@
 
 namespace kavro {
 
-namespace {
-
-template <class Clickable>
-void bindClickable(QAbstractButton &view, Clickable &control)
+void bind(QAbstractButton &view, ClickControl &control)
 {
     bindLook(view, control);
     const auto show = [&view, &control] { view.setText(withoutMnemonic(control.caption())); };
     QObject::connect(&control, &CaptionControl::captionChanged, &view, show);
     QObject::connect(&view, &QAbstractButton::clicked, &control, [&control] { control.click(); });
     show();
-}
-
-} // namespace
-
-void bind(QAbstractButton &view, Button &button)
-{
-    bindClickable(view, button);
-}
-
-void bind(QAbstractButton &view, Label &label)
-{
-    bindClickable(view, label);
 }
 
 void bind(QCheckBox &view, CheckBox &box)

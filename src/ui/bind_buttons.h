@@ -9,14 +9,13 @@ namespace kavro {
 
 class Button;
 class CheckBox;
-class Label;
+class ClickControl;
 class OptionButton;
 
 // Both ways without echo, as in bind_text.h.
 
-void bind(QAbstractButton &view, Button &button);
-/// A label that is a button of the program.
-void bind(QAbstractButton &view, Label &label);
+/// A button, or a label that is one to a person.
+void bind(QAbstractButton &view, ClickControl &control);
 void bind(QCheckBox &view, CheckBox &box);
 /// The views of a group, and no others, stand in one parent.
 void bind(QRadioButton &view, OptionButton &option);

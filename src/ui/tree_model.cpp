@@ -16,10 +16,6 @@ TreeModel::TreeModel(TreeView &tree, IsShown isShown, QObject *parent)
         build();
         endResetModel();
     });
-    connect(&tree, &TreeView::textChanged, this, [this](int node) {
-        const QModelIndex changed = indexOf(node);
-        emit dataChanged(changed, changed);
-    });
 }
 
 int TreeModel::nodeOf(const QModelIndex &index)
