@@ -172,12 +172,6 @@ qsizetype InStr(QStringView text, QStringView what)
     return text.indexOf(what) + 1;
 }
 
-qsizetype InStr(qsizetype start, QStringView text, QStringView what)
-{
-    // A view counts a position from -1 down from its end.
-    return text.indexOf(what, std::max<qsizetype>(start - 1, 0)) + 1;
-}
-
 QString lowerCase(QStringView text)
 {
     constexpr QChar dottedI(0x0130); // the one letter whose small form is more than one character

@@ -38,9 +38,8 @@ QStringView Mid(QStringView text, qsizetype start,
 QStringView Left(QStringView text, qsizetype length);
 QStringView Right(QStringView text, qsizetype length);
 
-/// The position of `what` in `text`, case-exact, from `start` on; 0 when it isn't there.
+/// The position of `what` in `text`, case-exact; 0 when it isn't there.
 qsizetype InStr(QStringView text, QStringView what);
-qsizetype InStr(qsizetype start, QStringView text, QStringView what);
 
 /// The text in lower case, unit for unit: a position in it is the same position in `text`.
 QString lowerCase(QStringView text);
