@@ -3,7 +3,6 @@
 
 #include "bench/edited_document.h"
 #include "core/frame_rate_page.h"
-#include "core/main_menu.h"
 #include "tools/filters.h"
 #include "tools/frame_rate_conversion.h"
 #include "tools/search_replace.h"

@@ -3,8 +3,6 @@
 #include "app/program.h"
 #include "cli/output_plan.h"
 
-#include <QFileInfo>
-
 namespace kavro {
 
 using namespace Qt::StringLiterals;

@@ -4,7 +4,6 @@
 #include "core/run_lock.h"
 #include "core/safe_file.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>

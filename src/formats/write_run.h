@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/encoding.h"
-#include "core/file_status.h"
 #include "formats/create_subfile.h"
 #include "formats/losses.h"
 #include "formats/write_frame.h"

@@ -2,8 +2,6 @@
 
 #include "controls/control.h"
 
-#include <QStringView>
-
 namespace kavro {
 
 class ControlWindow;

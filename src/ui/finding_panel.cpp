@@ -1,7 +1,6 @@
 #include "ui/finding_panel.h"
 
 #include "controls/control.h"
-#include "ui/bind_look.h"
 #include "ui/grid_view.h"
 
 #include <QLabel>

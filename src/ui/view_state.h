@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QString>
-
 namespace kavro {
 
 class FileStore;

@@ -2,7 +2,6 @@
 #include "tests/support/test_program.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,6 @@
 #include "core/safe_file.h"
 #include "tests/core/file_support.h"
 
-#include <QFileInfo>
-
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 

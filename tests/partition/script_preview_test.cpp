@@ -1,7 +1,5 @@
 #include "tests/support/test_program.h"
 
-#include <QFile>
-
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;

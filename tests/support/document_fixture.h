@@ -18,7 +18,6 @@
 #include "core/player_page.h"
 #include "core/safe_file.h"
 #include "core/settings_page.h"
-#include "core/text.h"
 #include "core/time_page.h"
 #include "tests/support/scripted_ports.h"
 

@@ -4,7 +4,6 @@
 #include "core/document.h"
 #include "core/editor_page.h"
 
-#include <QString>
 #include <QStringList>
 
 namespace kavro::test {

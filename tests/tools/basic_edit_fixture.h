@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/text.h"
 #include "tests/support/document_fixture.h"
 #include "tests/support/document_text.h"
 #include "tools/basic_edit.h"

@@ -6,7 +6,6 @@
 #include "ui/help_browser.h"
 #include "ui/main_window.h"
 
-#include <QLineEdit>
 #include <QTest>
 
 #include <gtest/gtest.h>
