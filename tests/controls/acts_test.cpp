@@ -35,22 +35,19 @@ struct Controls
     {
         list.setItems({u"a"_s, u"b"_s});
         combo.setItems({u"a"_s, u"b"_s});
-        const auto change = [this] { ++changes; };
-        const auto act = [this] { ++acts; };
-        QObject::connect(&check, &CheckBox::valueChanged, &form, change);
-        QObject::connect(&check, &CheckBox::clicked, &form, act);
-        QObject::connect(&option[1], &OptionButton::valueChanged, &form, change);
-        QObject::connect(&option[1], &OptionButton::clicked, &form, act);
-        QObject::connect(&box, &TextBox::textChanged, &form, change);
-        QObject::connect(&box, &TextBox::typed, &form, act);
-        QObject::connect(&list, &ListBox::selectedChanged, &form, change);
-        QObject::connect(&list, &ListBox::picked, &form, act);
-        QObject::connect(&combo, &ListBox::selectedChanged, &form, change);
-        QObject::connect(&combo, &ListBox::picked, &form, act);
-        QObject::connect(&tabs, &TabStrip::tabChanged, &form, change);
-        QObject::connect(&tabs, &TabStrip::picked, &form, act);
-        QObject::connect(&slider, &Slider::valueChanged, &form, change);
-        QObject::connect(&slider, &Slider::slid, &form, act);
+        hear(check, &CheckBox::valueChanged, &CheckBox::clicked);
+        hear(option[1], &OptionButton::valueChanged, &OptionButton::clicked);
+        hear(box, &TextBox::textChanged, &TextBox::typed);
+        hear(list, &ListBox::selectedChanged, &ListBox::picked);
+        hear(combo, &ListBox::selectedChanged, &ListBox::picked);
+        hear(tabs, &TabStrip::tabChanged, &TabStrip::picked);
+        hear(slider, &Slider::valueChanged, &Slider::slid);
+    }
+
+    void hear(auto &control, auto change, auto act)
+    {
+        QObject::connect(&control, change, &form, [this] { ++changes; });
+        QObject::connect(&control, act, &form, [this] { ++acts; });
     }
 };
 

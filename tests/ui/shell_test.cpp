@@ -69,7 +69,7 @@ TEST_F(Shells, FileOnTheCommandLineOpensTheWindowAtOnce)
     const QPointer<StartTrace> trace = new StartTrace(*shell.mainWindow());
     EXPECT_TRUE(QTest::qWaitFor([&trace] { return trace.isNull(); })) << "it goes when it has told";
     const QString line = QString::fromStdString(::testing::internal::GetCapturedStderr());
-    EXPECT_TRUE(QRegularExpression(u"^settled [1-9][0-9]*\n$"_s).match(line).hasMatch())
+    EXPECT_TRUE(QRegularExpression(u"settled [1-9][0-9]*\n"_s).match(line).hasMatch())
         << line.toStdString();
 }
 
