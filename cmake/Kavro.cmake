@@ -27,23 +27,29 @@ target_link_libraries(kavro_pch PRIVATE Qt6::Core kavro_strict)
 target_precompile_headers(kavro_pch PRIVATE <QObject> <QString> <QStringList> <QHash> <QList>
   <QFile> <QDateTime> <algorithm> <array> <functional> <memory> <optional> <span> <vector>)
 
-# kavro_library(FOLDER [DEPENDS FOLDER...] [LINKS TARGET...])
+# kavro_library(FOLDER [DEPENDS FOLDER...] [LINKS TARGET...] [QT MODULE...])
 #
-# One static library of all sources of src/FOLDER. DEPENDS names the folders it may include; what is
-# not named is not on its link line, so an include that points upward does not link.
+# One static library of all sources of src/FOLDER but its main.cpp, so that tests link what a program
+# is made of. DEPENDS names the folders it may include; what is not named is not on its link line, so
+# an include that points upward does not link. With QT, modules beside QtCore that it builds on, it
+# has a precompiled header of its own.
 function(kavro_library folder)
-  cmake_parse_arguments(arg "" "" "DEPENDS;LINKS" ${ARGN})
+  cmake_parse_arguments(arg "" "" "DEPENDS;LINKS;QT" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
-  if(NOT sources MATCHES "cpp")
-    add_library(kavro_${folder} INTERFACE)
-    return()
-  endif()
-  add_library(kavro_${folder} STATIC ${sources})
-  set_target_properties(kavro_${folder} PROPERTIES AUTOMOC ON)
-  target_include_directories(kavro_${folder} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  set(library kavro_${folder})
+  add_library(${library} STATIC ${sources})
+  set_target_properties(${library} PROPERTIES AUTOMOC ON)
+  target_include_directories(${library} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   list(TRANSFORM arg_DEPENDS PREPEND kavro_)
-  target_link_libraries(kavro_${folder} PUBLIC Qt6::Core ${arg_DEPENDS} PRIVATE kavro_strict ${arg_LINKS})
-  target_precompile_headers(kavro_${folder} REUSE_FROM kavro_pch)
+  list(TRANSFORM arg_QT PREPEND Qt6::)
+  target_link_libraries(${library} PUBLIC Qt6::Core ${arg_QT} ${arg_DEPENDS}
+    PRIVATE kavro_strict ${arg_LINKS})
+  if(arg_QT)
+    target_precompile_headers(${library} PRIVATE <QtWidgets>)
+  else()
+    target_precompile_headers(${library} REUSE_FROM kavro_pch)
+  endif()
 endfunction()
 
 # kavro_tests(FOLDER [LINKS TARGET...]): one test program of all tests/FOLDER/*_test.cpp.
@@ -51,9 +57,6 @@ function(kavro_tests folder)
   cmake_parse_arguments(arg "" "" "LINKS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
        ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h)
-  if(NOT sources)
-    return()
-  endif()
   add_executable(${folder}_tests ${sources})
   target_include_directories(${folder}_tests PRIVATE ${CMAKE_SOURCE_DIR})
   target_compile_definitions(${folder}_tests PRIVATE
@@ -62,7 +65,7 @@ function(kavro_tests folder)
   set_target_properties(${folder}_tests PROPERTIES KAVRO_TEST ON)
   if(folder STREQUAL "ui")
     target_precompile_headers(${folder}_tests PRIVATE <gtest/gtest.h> <QtWidgets>)
-  elseif(TARGET kavro_tests_pch)
+  else()
     target_precompile_headers(${folder}_tests REUSE_FROM kavro_tests_pch)
   endif()
   set_target_properties(${folder}_tests PROPERTIES
