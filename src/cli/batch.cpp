@@ -3,6 +3,8 @@
 #include "app/program.h"
 #include "cli/output_plan.h"
 
+#include <QFileInfo>
+
 namespace kavro {
 
 using namespace Qt::StringLiterals;
