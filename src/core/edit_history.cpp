@@ -28,21 +28,17 @@ QString lineNumber(int line)
 
 } // namespace
 
-EditHistory::EditHistory(Form &frmHistory)
+EditHistory::EditHistory(Form &frmHistory, const Parts &parts)
     : List1(frmHistory, u"List1"_s),
       List2(frmHistory, u"List2"_s),
       lblHistComment(frmHistory, u"lblHistComment"_s),
       Command1(frmHistory, u"Command1"_s),
-      m_form(frmHistory)
+      m_form(frmHistory),
+      m_parts(parts)
 {
     List2.setVisible(false);
     Command1[1].setEnabled(false);
     connectWindow();
-}
-
-EditHistory::EditHistory(Form &frmHistory, const Parts &parts) : EditHistory(frmHistory)
-{
-    m_parts.emplace(parts);
 }
 
 void EditHistory::connectWindow()
@@ -65,15 +61,13 @@ void EditHistory::showDetail(int line)
 
 void EditHistory::show()
 {
-    if (m_parts) {
-        m_parts->forms.runModal(m_form);
-    }
+    m_parts.forms.runModal(m_form);
 }
 
 void EditHistory::LogHistory(const QString &action, const QString &detail)
 {
     const int line = List1.count();
-    const QDateTime now = m_parts ? m_parts->clock.now() : QDateTime();
+    const QDateTime now = m_parts.clock.now();
     List2.addItem(detail);
     List1.addItem(u"%1 [%2,%3] %4"_s.arg(lineNumber(line), now.toString(u"yyyy-MM-dd"_s),
                                          now.toString(u"HH:mm:ss"_s), action));
@@ -82,17 +76,14 @@ void EditHistory::LogHistory(const QString &action, const QString &detail)
 
 int EditHistory::keepDocument(int line)
 {
-    if (!m_parts) {
-        return noSnapshot;
-    }
     if (m_bounds > 0 && m_written >= maxBoundedSnapshots) {
         return m_snapshots.back();
     }
     ++m_written;
     const QString file = path(line);
-    FileStatus status = m_parts->folders.makeRoomFor(file);
+    FileStatus status = m_parts.folders.makeRoomFor(file);
     if (status.ok()) {
-        status = writeSnapshot(m_parts->store, file, m_parts->document, m_parts->versionNumber);
+        status = writeSnapshot(m_parts.store, file, m_parts.document, m_parts.versionNumber);
     }
     if (!status.ok()) {
         tellFailed(status);
@@ -108,7 +99,7 @@ void EditHistory::tellFailed(const FileStatus &status)
         return;
     }
     m_failureTold = true;
-    m_parts->messages.ShowMessage(
+    m_parts.messages.ShowMessage(
         {u"The history can't keep the document as it stands./n%1/n/nThe change is made all the "
          "same; 'Undo' takes it back."_s,
          {},
@@ -119,14 +110,14 @@ void EditHistory::tellFailed(const FileStatus &status)
 QString EditHistory::path(int number) const
 {
     const QString name = lineNumber(number) % u".shd";
-    return m_parts->folders.writablePath(Folder::Temporary, name);
+    return m_parts.folders.writablePath(Folder::Temporary, name);
 }
 
 void EditHistory::RestoreHistory(const QString &line)
 {
     // Lines begin with their number, which grows beyond four digits.
     const auto number = static_cast<std::size_t>(line.section(u' ', 0, 0).toUInt());
-    if (!m_parts || !List1.items().contains(line) || number >= m_snapshots.size()) {
+    if (!List1.items().contains(line) || number >= m_snapshots.size()) {
         return;
     }
     Snapshot snapshot;
@@ -138,14 +129,14 @@ void EditHistory::RestoreHistory(const QString &line)
         take(snapshot);
         return;
     }
-    m_parts->messages.ShowMessage(
+    m_parts.messages.ShowMessage(
         {u"The document can't be brought back to '%1'./n%2"_s, {line}, status.text}, Answer::Ok,
         u"ok"_s, u"History"_s);
 }
 
 void EditHistory::take(const Snapshot &snapshot)
 {
-    SubtitleDocument &document = m_parts->document;
+    SubtitleDocument &document = m_parts.document;
     const SubtitleDocument::Act act(document);
     Grid &grid = document.editor.grdSubEdit;
     document.editorBlocked = true;
@@ -164,13 +155,13 @@ void EditHistory::take(const Snapshot &snapshot)
     document.editor.rtfEdit.setVisible(false);
     document.editor.cmdInvCalc.setVisible(false);
     document.ShowNodeMarks(1);
-    m_parts->diagnose.GoDiagnose();
+    m_parts.diagnose.GoDiagnose();
 }
 
 // Fonts are no part of a snapshot: those of rows that are gone go, new rows have the regular one.
 void EditHistory::fitFonts()
 {
-    const SubtitleDocument &document = m_parts->document;
+    const SubtitleDocument &document = m_parts.document;
     QStringList entries = document.editor.lstFont.items();
     const qsizetype rows = document.subtitleCount() + 1;
     if (entries.isEmpty()) {

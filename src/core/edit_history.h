@@ -4,7 +4,6 @@
 #include "controls/list_box.h"
 #include "core/snapshot.h"
 
-#include <optional>
 #include <vector>
 
 namespace kavro {
@@ -38,8 +37,6 @@ public:
     };
 
     EditHistory(Form &frmHistory, const Parts &parts);
-    /// A list without snapshots: nothing of it can be restored.
-    explicit EditHistory(Form &frmHistory);
 
     /// Adds a line to the list and keeps the document as it stands; every tool calls this before it
     /// changes anything. A snapshot that can't be written is told once, till one succeeds again;
@@ -84,7 +81,7 @@ private:
     void fitFonts();
 
     Form &m_form;
-    std::optional<Parts> m_parts;
+    Parts m_parts;
     std::vector<int> m_snapshots; ///< the number of each line's snapshot, -1 for none
     int m_bounds = 0;             ///< `Bounded` scopes that live
     int m_written = 0;            ///< snapshots in the outermost of them
