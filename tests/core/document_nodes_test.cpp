@@ -142,26 +142,19 @@ TEST_F(NodeMarks, ToggleTwiceIsAsBefore)
     }
 }
 
-TEST_F(NodeMarks, RowOneGoesToNodeZeroAndComesBack)
+TEST_F(NodeMarks, RowOneGoesToNodeZeroAndComesBackWithTheFlagsLeft)
 {
     fillRows(6);
     setNodes({2, 6});
+    document.nodes[2].flag = true;
     EXPECT_TRUE(document.toggleNode(1));
+    EXPECT_FALSE(document.nodes[1].flag) << "a flag belongs to the number";
     EXPECT_EQ(document.nodes[0].lastRow, 2);
     EXPECT_EQ(document.nodes[0].name, u"0"_s);
     EXPECT_TRUE(document.toggleNode(1));
     EXPECT_EQ(nodes(), "1-2 Part_1|3-6 b");
     EXPECT_EQ(document.nodes[0].lastRow, 0);
-}
-
-TEST_F(NodeMarks, FlagsBelongToTheNumbers)
-{
-    fillRows(6);
-    setNodes({4, 6});
-    document.nodes[2].flag = true;
-    EXPECT_TRUE(document.toggleNode(3));
     EXPECT_TRUE(document.nodes[2].flag);
-    EXPECT_FALSE(document.nodes[3].flag);
 }
 
 TEST_F(NodeMarks, ToggleChangesNothingAtTheLimitAndOutside)

@@ -1,4 +1,5 @@
 #include "tests/core/document_support.h"
+#include "tests/support/document_text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,18 +22,13 @@ TEST_F(DocumentTest, NewDocumentLeavesNothingOfTheOld)
     grid.setTopRow(2);
 
     document.startNew();
-    EXPECT_EQ(grid.allRows().mid(1),
-              (QList<GridRow>{{u"1"_s, {}, {}, {}, {}, {}}, {{}, {}, {}, {}, {}, {}}}));
-    EXPECT_EQ(document.subtitleCount(), 1);
+    EXPECT_EQ(test::contentLines(document).mid(1),
+              (QStringList{u"1|||||"_s, u"|||||"_s, u": 1-1 0"_s, u": 1-1 0"_s, u"node 1"_s}));
     EXPECT_EQ(std::pair(grid.row(), grid.col()), std::pair(1, 1));
     EXPECT_EQ(grid.topRow(), 1);
-    EXPECT_TRUE(grid.coloredCells().isEmpty());
     EXPECT_EQ(editor.lstFont.items(), (QStringList{{}, {}}));
     EXPECT_EQ(document.rowErrorText(1), QString());
     EXPECT_EQ(document.errorCount, 0);
-    EXPECT_EQ(document.nodeCount, 1);
-    EXPECT_EQ(document.curNode, 1);
-    EXPECT_EQ(document.nodes[1].lastRow, 1);
     EXPECT_EQ(document.nodes[2].firstRow, 0);
     EXPECT_EQ(document.encoding, TextEncoding());
     EXPECT_EQ(document.savedPath, QString());

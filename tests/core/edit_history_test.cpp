@@ -81,19 +81,16 @@ TEST_F(EditHistoryTest, RestoreGoesBackToTheMomentBefore)
         const char *name;
         std::function<void(EditHistoryTest &)> change;
     } rows[] = {
-        {"a text", [](auto &t) { t.grid.setText(2, 3, u"other"_s); }},
         {"fewer rows", [](auto &t) { t.setRows({}); }},
         {"more rows", [](auto &t) { t.setRows(QList<GridRow>(50, GridRow(6, u"x"_s))); }},
-        {"nodes",
+        {"all that stands in them",
          [](auto &t) {
+             t.grid.setText(2, 3, u"other"_s);
+             t.grid.setText(4, 1, u"in the end row"_s);
              t.document.clearNodeMarks();
              t.document.nodeCount = 1;
              t.document.curNode = 1;
              t.document.nodes[1].flag = false;
-         }},
-        {"text in the end row", [](auto &t) { t.grid.setText(4, 1, u"x"_s); }},
-        {"findings",
-         [](auto &t) {
              t.document.setRowErrorText(2, u"empty"_s);
              t.grid.setCellColor(2, 3, Color::fromBgr(0xFF0000));
          }},
