@@ -128,6 +128,8 @@ QWidget *MessageDialog::makeText()
     text->setFixedHeight(std::min(height, mostTextLines) * metrics.lineSpacing() + 2);
     text->setVerticalScrollBarPolicy(height > mostTextLines ? Qt::ScrollBarAsNeeded
                                                             : Qt::ScrollBarAlwaysOff);
+    // The blank at a broken line's end needs no bar, which would cover the last line.
+    text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     return text;
 }
 
