@@ -25,6 +25,29 @@ void fillLater(QWidget &view, ListBox &list, Fill fill)
     fill();
 }
 
+/// Keeps the wheel from a list that hasn't the focus: who scrolls past it picks nothing.
+class WheelGuard : public QObject
+{
+public:
+    explicit WheelGuard(QComboBox &view) : QObject(&view), m_view(view)
+    {
+        view.setFocusPolicy(Qt::StrongFocus); // the wheel doesn't bring the focus either
+        view.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        const bool passing = event->type() == QEvent::Wheel && !m_view.hasFocus();
+        if (passing) {
+            event->ignore();
+        }
+        return passing;
+    }
+
+private:
+    QComboBox &m_view;
+};
+
 /// The entries of a list as a view of Qt's reads them.
 class ListModel : public QStringListModel
 {
@@ -106,6 +129,7 @@ void bind(QComboBox &view, ComboBox &list, const QString &label)
         select();
     });
     QObject::connect(&list, &ListBox::selectedChanged, &view, select);
+    new WheelGuard(view);
     // `activated` is a person's alone, and comes for the entry that stands already too.
     QObject::connect(&view, &QComboBox::activated, &list, [&list](int index) { list.pick(index); });
 }
