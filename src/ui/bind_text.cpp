@@ -68,6 +68,9 @@ private:
     {
         if (!m_edit.isHidden() && m_edit.text() != m_box.text()) {
             m_edit.setText(m_box.text());
+            if (!m_edit.hasFocus()) {
+                m_edit.setCursorPosition(0); // a long text is seen from its beginning
+            }
         }
     }
 
