@@ -26,6 +26,7 @@ BasicEditView::BasicEditView(EditorPage &editor, SettingsPage &settings, QWidget
         auto *view = new QPushButton(this);
         bind(*view, *button);
         view->setFocusPolicy(Qt::TabFocus);
+        letShrink(*view);
         row->addWidget(view);
     }
     // Enter in the box is the program's own key for the first.

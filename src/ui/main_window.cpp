@@ -12,6 +12,7 @@
 #include "ui/left_panel.h"
 #include "ui/main_menu_view.h"
 #include "ui/page_tabs.h"
+#include "ui/panel_splitter.h"
 #include "ui/partition_view.h"
 #include "ui/status_bar_view.h"
 #include "ui/view_state.h"
@@ -25,7 +26,6 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QShortcut>
-#include <QSplitter>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -38,7 +38,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int leftPanelWidth = 230;
+constexpr int leftPanelWidth = 210;
 
 int toPixels(double twips)
 {
@@ -73,9 +73,8 @@ MainWindow::MainWindow(Program &program, HelpPages &help) : m_program(program), 
 
 void MainWindow::makePages()
 {
-    m_splitter = new QSplitter(Qt::Horizontal, this);
+    m_splitter = new PanelSplitter(this);
     m_splitter->setObjectName(u"pMove"_s);
-    m_splitter->setChildrenCollapsible(false);
     m_splitter->addWidget(new LeftPanel(m_program.navigation, m_help, m_splitter));
     m_tabs = new PageTabs(m_program.navigation.tabMain, tr("Pages"), m_splitter);
     addPage(EditorTab, [this](QWidget *page) { return new EditorPageView(m_program, page); });
@@ -93,8 +92,6 @@ void MainWindow::makePages()
     layout->addWidget(m_tabs, 1);
     layout->addWidget(new BottomPanel(m_program, right));
     m_splitter->addWidget(right);
-    m_splitter->setStretchFactor(0, 0);
-    m_splitter->setStretchFactor(1, 1);
     setCentralWidget(m_splitter);
 }
 
@@ -140,8 +137,7 @@ void MainWindow::open()
     resize(rect.size());
     move(rect.topLeft());
     const ViewState state = ViewState::read(m_program.folders);
-    const int left = state.leftPanelWidth > 0 ? state.leftPanelWidth : leftPanelWidth;
-    m_splitter->setSizes({left, rect.width() - left});
+    m_splitter->setPanelWidth(state.leftPanelWidth > 0 ? state.leftPanelWidth : leftPanelWidth);
     if (EditorPageView *editor = editorPage()) {
         editor->focusGrid();
     }
@@ -195,8 +191,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
 
 void MainWindow::end()
 {
-    const ViewState state{.leftPanelWidth = m_splitter->sizes().constFirst(),
-                          .maximized = isMaximized()};
+    const ViewState state{.leftPanelWidth = m_splitter->panelWidth(), .maximized = isMaximized()};
     state.write(m_program.folders, m_program.store);
     hide();
     QCoreApplication::quit();

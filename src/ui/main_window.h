@@ -4,12 +4,13 @@
 
 #include <QMainWindow>
 
-class QSplitter;
+#include <optional>
 
 namespace kavro {
 
 class EditorPageView;
 class HelpPages;
+class PanelSplitter;
 class Program;
 
 /// The main window, `frmMain`: menus, the left panel, the pages, the foot. It opens and closes with
@@ -48,7 +49,7 @@ private:
 
     Program &m_program;
     HelpPages &m_help;
-    QSplitter *m_splitter = nullptr;
+    PanelSplitter *m_splitter = nullptr;
     PageTabs *m_tabs = nullptr;
 };
 

@@ -88,7 +88,15 @@ QPushButton *ToolPage::makeButton(Button &button)
     connect(view, &QPushButton::clicked, this, &ToolPage::aboutToAct);
     bind(*view, button);
     view->setFocusPolicy(Qt::TabFocus);
+    letShrink(*view);
     return view;
+}
+
+void ToolPage::letShrink(QPushButton &button)
+{
+    const QFontMetrics metrics = button.fontMetrics();
+    button.setMinimumWidth(metrics.horizontalAdvance(button.text())
+                           + 3 * metrics.averageCharWidth());
 }
 
 QPushButton *ToolPage::makeDefault(Button &button)
@@ -106,6 +114,7 @@ void ToolPage::addRange(QBoxLayout *row, TextBox &first, TextBox &last, Label &s
     auto *steps = new QPushButton(this);
     bind(*steps, step);
     steps->setFocusPolicy(Qt::TabFocus);
+    letShrink(*steps);
     row->addWidget(steps);
     auto *number = new QLabel(this);
     bind(*number, node);

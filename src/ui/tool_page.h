@@ -44,6 +44,8 @@ protected:
     QLineEdit *makeNumberField(TextBox &box, const QString &label);
     /// A click on it leaves the focus where it is.
     QPushButton *makeButton(Button &button);
+    /// Lets a button be as narrow as its caption where the page has little room.
+    static void letShrink(QPushButton &button);
     /// The button that Enter presses.
     QPushButton *makeDefault(Button &button);
 
