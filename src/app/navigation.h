@@ -11,7 +11,7 @@
 #include <QString>
 
 #include <array>
-#include <functional>
+#include <optional>
 
 namespace kavro {
 
@@ -81,6 +81,8 @@ public:
     void autoHelp(int page);
     /// The help page of a page of the window, with the tab that its inner tabs show.
     [[nodiscard]] int helpOfMainTab(int tab) const;
+    /// The help page of what a page's inner tabs or those of the bottom panel show.
+    [[nodiscard]] std::optional<int> helpOfTabs(const TabStrip &tabs) const;
     /// Opens the help's index, and its tab.
     void mnuHelpIndex();
     /// True when a click on that node of the tree, or on one below it, leads somewhere now; a view
@@ -102,7 +104,7 @@ public:
 
 private:
     void connectTabs();
-    void connectInner(InnerTabs inner, int firstCode, std::function<int(int tab)> page);
+    void connectInner(InnerTabs inner, int firstCode);
     void clickMenu(NodeAction action);
     void showPage(const TreeNode &node);
     void markPlace(InnerTabs inner);

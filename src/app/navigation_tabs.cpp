@@ -9,7 +9,6 @@
 #include "core/ports.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace kavro {
 
@@ -32,8 +31,6 @@ enum TabCode {
 
 /// First pages of the help, likewise.
 enum TabPage { EditorPages = 4, TimingPages = 8, OnlinePages = 15, BottomPages = 17 };
-
-constexpr int noPage = -1;
 
 /// The last tab of `SSTab2` only holds `SSTab3`, and has neither code nor page.
 constexpr int lastEditorTab = 3;
@@ -71,13 +68,11 @@ void Navigation::connectTabs()
         }
         autoHelp(helpOfMainTab(tab));
     });
-    connectInner(InnerTabs::Calculator, CalculatorCode,
-                 [this](int) { return helpOfMainTab(CalculatorTab); });
-    connectInner(InnerTabs::Editor, EditorCode,
-                 [](int tab) { return tab <= lastEditorTab ? EditorPages + tab : noPage; });
-    connectInner(InnerTabs::Timing, TimingCode, [](int tab) { return TimingPages + tab; });
-    connectInner(InnerTabs::Online, OnlineCode, [](int tab) { return OnlinePages + tab; });
-    connectInner(InnerTabs::Bottom, BottomCode, [](int tab) { return BottomPages + tab; });
+    connectInner(InnerTabs::Calculator, CalculatorCode);
+    connectInner(InnerTabs::Editor, EditorCode);
+    connectInner(InnerTabs::Timing, TimingCode);
+    connectInner(InnerTabs::Online, OnlineCode);
+    connectInner(InnerTabs::Bottom, BottomCode);
     QObject::connect(&SSTab1, &TabStrip::picked, &SSTab1,
                      [this](int tab) { m_parts.trace.RecordAction({}, LeftCode + tab); });
     QObject::connect(&command55[0], &Button::clicked, &command55[0],
@@ -85,7 +80,7 @@ void Navigation::connectTabs()
 }
 
 /// A tab without a page of the help has no code either.
-void Navigation::connectInner(InnerTabs inner, int firstCode, std::function<int(int tab)> page)
+void Navigation::connectInner(InnerTabs inner, int firstCode)
 {
     TabStrip &tabs = *innerTabs(inner);
     const auto follow = [this, inner] {
@@ -93,15 +88,13 @@ void Navigation::connectInner(InnerTabs inner, int firstCode, std::function<int(
         markPlace(inner);
     };
     QObject::connect(&tabs, &TabStrip::tabChanged, &tabs, follow);
-    QObject::connect(&tabs, &TabStrip::picked, &tabs,
-                     [this, firstCode, follow, page = std::move(page)](int tab) {
-                         follow();
-                         const int help = page(tab);
-                         if (help != noPage) {
-                             m_parts.trace.RecordAction({}, firstCode + tab);
-                             autoHelp(help);
-                         }
-                     });
+    QObject::connect(&tabs, &TabStrip::picked, &tabs, [this, &tabs, firstCode, follow](int tab) {
+        follow();
+        if (const std::optional<int> help = helpOfTabs(tabs)) {
+            m_parts.trace.RecordAction({}, firstCode + tab);
+            autoHelp(*help);
+        }
+    });
 }
 
 TabStrip *Navigation::innerTabs(InnerTabs inner)
@@ -177,6 +170,24 @@ int Navigation::helpOfMainTab(int tab) const
     case MacroTab: return 14;
     default: return OnlinePages + SSTab5.tab();
     }
+}
+
+std::optional<int> Navigation::helpOfTabs(const TabStrip &tabs) const
+{
+    const int tab = tabs.tab();
+    if (&tabs == &tabCalculator) {
+        return helpOfMainTab(CalculatorTab);
+    }
+    if (&tabs == &m_parts.editor.SSTab2) {
+        return tab <= lastEditorTab ? std::optional(EditorPages + tab) : std::nullopt;
+    }
+    if (&tabs == &m_parts.editor.SSTab3) {
+        return TimingPages + tab;
+    }
+    if (&tabs == &SSTab5) {
+        return OnlinePages + tab;
+    }
+    return &tabs == &tabClipboard ? std::optional(BottomPages + tab) : std::nullopt;
 }
 
 void Navigation::enterPlayer()

@@ -172,7 +172,21 @@ void MainWindow::showPageHelp()
 {
     Navigation &navigation = m_program.navigation;
     navigation.SSTab1.setTab(1);
-    m_program.help.ShowHelpPage(navigation.helpOfMainTab(navigation.tabMain.tab()));
+    m_program.help.ShowHelpPage(
+        helpOfFocus().value_or(navigation.helpOfMainTab(navigation.tabMain.tab())));
+}
+
+/// The help page of the inner tabs that hold the focus.
+std::optional<int> MainWindow::helpOfFocus() const
+{
+    for (const QWidget *widget = focusWidget(); widget != nullptr && widget != m_tabs;
+         widget = widget->parentWidget())
+    {
+        if (const auto *tabs = qobject_cast<const PageTabs *>(widget)) {
+            return m_program.navigation.helpOfTabs(tabs->strip());
+        }
+    }
+    return std::nullopt;
 }
 
 void MainWindow::showCurrentLine()

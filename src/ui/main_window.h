@@ -42,6 +42,7 @@ private:
     void connectProgram();
     void showTitle();
     void showPageHelp();
+    [[nodiscard]] std::optional<int> helpOfFocus() const;
     void showCurrentLine();
     void storePlace();
     void end();

@@ -21,6 +21,8 @@ public:
     /// @param label  what a screen reader calls the set of tabs
     PageTabs(TabStrip &strip, const QString &label, QWidget *parent);
 
+    [[nodiscard]] const TabStrip &strip() const { return m_strip; }
+
     /// Gives tab `number` its page, which is made when it is shown first. Pages may come in any
     /// order; the tabs stand in the strip's.
     void addPage(int number, MakePage make);
