@@ -8,9 +8,12 @@
 
 #include <QComboBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
+#include <QVBoxLayout>
 
 namespace kavro {
 
@@ -20,30 +23,48 @@ SearchView::SearchView(SearchReplace &search, QWidget *parent) : ToolPage(parent
     bind(*what, search.rtfSearch, tr("Search for"));
     auto *with = new QLineEdit(this);
     bind(*with, search.rtfReplace, tr("Replace with"));
-    auto *matches = new QLabel(this);
-    bind(*matches, search.lblMatches);
     runByTheClock(search.timMatches, *this);
 
     QGridLayout *fields = addGrid();
     fields->setColumnStretch(1, 1);
     addField(fields, 0, search.lblSearch, what);
-    fields->addWidget(makeModes(search), 0, 2);
     addField(fields, 1, search.lblReplace, with);
-    auto *go = new QHBoxLayout;
-    go->addWidget(makeDefault(search.cmdSearch));
-    go->addWidget(matches, 1);
-    fields->addLayout(go, 1, 2);
+    fields->addWidget(makeModes(search), 0, 2, 2, 1);
     auto *stored = new QComboBox(this);
     bind(*stored, search.List4, tr("Stored"));
     stored->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    addField(fields, 2, search.lblStored, stored);
-    fields->addWidget(makeButton(search.Command2), 2, 2);
+    stored->setMinimumContentsLength(4);
+    QHBoxLayout *row = addRow();
+    addField(row, search.lblStored, stored);
+    row->setStretchFactor(stored, 1);
+    row->addWidget(makeButton(search.Command2));
+    row->addWidget(makeDefault(search.cmdSearch));
+    showMatches(*what, search.lblMatches);
+}
+
+/// The count stands in the field, at its end.
+void SearchView::showMatches(QLineEdit &what, Label &matches)
+{
+    auto *view = new QLabel(&what);
+    view->setAttribute(Qt::WA_TransparentForMouseEvents);
+    view->setForegroundRole(QPalette::PlaceholderText);
+    bind(*view, matches);
+    auto *inside = new QHBoxLayout(&what);
+    inside->setContentsMargins(0, 0, 6, 0);
+    inside->addStretch(1);
+    inside->addWidget(view);
+    const auto makeRoom = [&what, view] {
+        constexpr int gap = 12;
+        what.setTextMargins(0, 0, view->text().isEmpty() ? 0 : view->sizeHint().width() + gap, 0);
+    };
+    connect(&matches, &Label::captionChanged, view, makeRoom);
+    makeRoom();
 }
 
 QWidget *SearchView::makeModes(SearchReplace &search)
 {
     auto *group = new QWidget(this);
-    auto *layout = new QHBoxLayout(group);
+    auto *layout = new QVBoxLayout(group);
     layout->setContentsMargins(0, 0, 0, 0);
     for (OptionButton &mode : search.Option1) {
         auto *view = new QRadioButton(group);

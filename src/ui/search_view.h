@@ -16,6 +16,7 @@ public:
 
 private:
     QWidget *makeModes(SearchReplace &search);
+    void showMatches(QLineEdit &what, Label &matches);
 };
 
 } // namespace kavro
