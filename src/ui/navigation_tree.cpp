@@ -52,6 +52,10 @@ NavigationTree::NavigationTree(TreeView &tree, TreeModel::IsShown isShown, const
 void NavigationTree::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (m_actsOnSteps) {
+            event->ignore(); // the step has acted, and Enter is the window's
+            return;
+        }
         act(currentIndex());
         choose(currentIndex());
         return;
