@@ -259,6 +259,12 @@ void Program::connectTools()
         }
     });
     undo.formatChanged = [this] { loader.showFormat(document.curFormatId); };
+    diagnose.showLines = [this] {
+        if (navigation.tabMain.tab() != EditorTab) {
+            navigation.tabMain.setTab(EditorTab);
+            editor.grdSubEdit.setFocus();
+        }
+    };
     searchReplace.showPage = [this] {
         navigation.tabMain.setTab(EditorTab);
         editor.SSTab2.setTab(SearchPage);

@@ -145,6 +145,9 @@ void Diagnose::stepToFinding(int direction)
     for (int step = 1; step <= rows; ++step) {
         const int row = (grid.row() + direction * step + rows) % rows;
         if (hasFinding(row)) {
+            if (showLines) {
+                showLines();
+            }
             grid.setRow(row);
             grid.setTopRow(row);
             return;

@@ -5,6 +5,7 @@
 #include "core/diagnose_host.h"
 #include "diagnose/scan.h"
 
+#include <functional>
 #include <optional>
 
 namespace kavro {
@@ -32,6 +33,9 @@ public:
     };
 
     Diagnose(Form &frmMain, const Parts &parts);
+
+    /// Brings the page with the document's lines to the front.
+    std::function<void()> showLines;
 
     void GoDiagnose() override;
     void diagnoseWithoutRepairs() override;
