@@ -63,8 +63,37 @@ constexpr LanguageRow windowTexts[] = {
     {54, u"", u"Macros that are marked for the wizard stand here."},
 };
 
+/// Texts of the desktop's own windows: the menu of a field, the file window.
+constexpr LanguageRow toolkitTexts[] = {
+    {0, u"", u"&Undo"},
+    {1, u"", u"&Redo"},
+    {2, u"", u"Cu&t"},
+    {3, u"", u"&Copy"},
+    {4, u"", u"&Paste"},
+    {5, u"", u"Delete"},
+    {6, u"", u"Select All"},
+    {7, u"", u"Look in:"},
+    {8, u"", u"File &name:"},
+    {9, u"", u"Files of type:"},
+    {10, u"", u"&Open"},
+    {11, u"", u"&Save"},
+    {12, u"", u"Cancel"},
+    {13, u"", u"Parent Directory"},
+    {14, u"", u"Create New Folder"},
+    {15, u"", u"List View"},
+    {16, u"", u"Detail View"},
+    {17, u"", u"Size"},
+    {18, u"", u"Type"},
+    {19, u"", u"Date Modified"},
+    {20, u"", u"&Rename"},
+    {21, u"", u"&Delete"},
+    {22, u"", u"Show &hidden files"},
+    {23, u"", u"&New Folder"},
+};
+
 constexpr LanguageSection sections[] = {
     {u"Window Texts", u"frmMain", windowTexts, {}, LanguageTarget::Texts},
+    {u"Toolkit Texts", u"frmMain", toolkitTexts, {}, LanguageTarget::Texts},
 };
 // clang-format on
 

@@ -54,7 +54,7 @@ TEST(LanguageSections, StandInOneOrder)
                 << name << " entry " << row.index << " lies in a group";
         }
     }
-    EXPECT_EQ(names.size(), 52);
+    EXPECT_EQ(names.size(), 53);
 }
 
 /// Captions that are no text of a pack, by control without its index, and why.
@@ -185,8 +185,9 @@ TEST(LanguageSections, CoverWhatTheProgramSays)
                 covered.insert(text);
                 const QString literal =
                     text.endsWith(nothing) ? text.chopped(nothing.size()) : text;
-                EXPECT_TRUE(program.contains(u'"' + literal + u'"') || system.contains(text)
-                            || filters.contains(text))
+                const bool toolkit = section.name == u"Toolkit Texts"; // said by no file of ours
+                EXPECT_TRUE(toolkit || program.contains(u'"' + literal + u'"')
+                            || system.contains(text) || filters.contains(text))
                     << "said nowhere: " << qPrintable(literal);
             }
         }

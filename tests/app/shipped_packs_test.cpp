@@ -88,9 +88,9 @@ QStringList fixedParts(const QString &text)
 /// The words that a language shares with English, in small letters; no text of several words is.
 const QHash<QString, QString> sharedWords{
     {u"Dutch"_s, u"build diagnose editor filters info later macro macro's menu ok online pauze "
-                 "recent stop wizard"_s},
+                 "recent stop type wizard"_s},
     {u"French"_s,
-     u"build collection collections date format macro menu ok options style variables"_s},
+     u"build collection collections date format macro menu ok options style type variables"_s},
     {u"German"_s, u"build diagnose editor format info name ok online system text"_s},
     {u"Spanish"_s, u"col editor error macro no panel variables"_s},
 };
