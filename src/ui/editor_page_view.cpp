@@ -98,7 +98,7 @@ QWidget *EditorPageView::makeGrid()
     EditorPage &editor = m_document.editor;
     const auto finding = [this](int row) { return m_document.rowErrorText(row); };
     m_grid = new GridView(editor.grdSubEdit, tr("Subtitles"), finding, this);
-    m_grid->setColumnWidths(columnWidths(m_grid->fontMetrics()), FirstTextColumn);
+    m_grid->setColumnWidths(columnWidths(m_grid->fontMetrics()), FirstTextColumn, LastTextColumn);
     followScript(*m_grid, m_program.settings);
     m_grid->setHint(tr("Open a subtitle file with Ctrl+O, or drop one here."));
     m_cellEditor = new CellEditor(*m_grid, editor.rtfEdit, tr("Current cell"));

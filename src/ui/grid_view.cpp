@@ -73,7 +73,7 @@ void GridView::connectGrid()
             [this](int col, int, int width) {
                 if (!m_stretching && col < m_widths.size()) {
                     m_widths[col] = width;
-                    if (col < m_firstStretched) {
+                    if (!isStretched(col)) {
                         stretchColumns();
                     }
                 }
@@ -88,12 +88,13 @@ void GridView::connectGrid()
     showCurrent();
 }
 
-void GridView::setColumnWidths(const QList<int> &widths, int firstStretched)
+void GridView::setColumnWidths(const QList<int> &widths, int firstStretched, int lastStretched)
 {
     Q_ASSERT(widths.size() == m_model.columnCount());
     m_widths = widths;
     m_firstStretched = firstStretched;
-    for (int col = 0; col < firstStretched; ++col) {
+    m_lastStretched = lastStretched;
+    for (int col = 0; col < widths.size(); ++col) {
         setColumnWidth(col, widths[col]);
     }
     stretchColumns();
@@ -233,15 +234,20 @@ void GridView::stretchColumns()
     int room = viewport()->width();
     int weight = 0;
     for (int col = 0; col < m_widths.size(); ++col) {
-        room -= col < m_firstStretched ? columnWidth(col) : 0;
-        weight += col < m_firstStretched ? 0 : m_widths[col];
+        room -= isStretched(col) ? 0 : columnWidth(col);
+        weight += isStretched(col) ? m_widths[col] : 0;
     }
-    for (int col = m_firstStretched; col < m_widths.size(); ++col) {
+    for (int col = m_firstStretched; col <= m_lastStretched; ++col) {
         const int width = std::max(leastTextWidth, room * m_widths[col] / std::max(weight, 1));
         weight -= m_widths[col];
         room -= width;
         setColumnWidth(col, width);
     }
+}
+
+bool GridView::isStretched(int col) const
+{
+    return col >= m_firstStretched && col <= m_lastStretched;
 }
 
 void GridView::setRowHeights()

@@ -17,9 +17,9 @@ public:
     /// @param label  what a screen reader calls the table
     GridView(Grid &grid, const QString &label, GridModel::RowNote note, QWidget *parent);
 
-    /// Widths of the columns in pixels; those from `firstStretched` on share the room that is left,
-    /// in proportion.
-    void setColumnWidths(const QList<int> &widths, int firstStretched);
+    /// Widths of the columns in pixels; those from `firstStretched` to `lastStretched` share the
+    /// room that is left, in proportion.
+    void setColumnWidths(const QList<int> &widths, int firstStretched, int lastStretched);
     /// What stands in the middle of a grid that has no row but its end row.
     void setHint(const QString &hint);
     /// The current cell in the viewport's coordinates; empty when there is none.
@@ -51,6 +51,7 @@ private:
     void showCurrent();
     void showTopRow();
     void stretchColumns();
+    [[nodiscard]] bool isStretched(int col) const;
     void setRowHeights();
 
     Grid &m_grid;
@@ -58,6 +59,7 @@ private:
     QString m_hint;
     QList<int> m_widths; ///< as they were set or a person made them; empty for Qt's own
     int m_firstStretched = 0;
+    int m_lastStretched = -1;
     bool m_stretching = false;
     bool m_following = false; ///< the control moves the view, not a person
 };

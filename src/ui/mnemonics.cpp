@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTimer>
 
 namespace kavro {
 
@@ -94,6 +95,15 @@ void assignMnemonics(QWidget &window)
             mark(*static_cast<QAbstractButton *>(widget));
         }
     }
+}
+
+void assignMnemonicsLater(QWidget &page)
+{
+    QTimer::singleShot(0, &page, [&page] {
+        if (page.isVisible()) {
+            assignMnemonics(*page.window());
+        }
+    });
 }
 
 void assignMnemonics(const QList<QAction *> &actions)

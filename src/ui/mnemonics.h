@@ -31,4 +31,7 @@ void assignMnemonics(const QList<QAction *> &actions);
 /// and beside the letters of its menu bar.
 void assignMnemonics(QWidget &window);
 
+/// The same for the window of `page` behind a change of what the page shows, once all of it is set.
+void assignMnemonicsLater(QWidget &page);
+
 } // namespace kavro

@@ -6,7 +6,6 @@
 
 #include <QScopedValueRollback>
 #include <QTabBar>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -66,12 +65,7 @@ void PageTabs::showTab(int number)
         placeInTabOrder(*page.content);
     }
     setCurrentIndex(index);
-    // Other pages than before show, and what they show is set by then.
-    QTimer::singleShot(0, this, [this] {
-        if (isVisible()) {
-            assignMnemonics(*window());
-        }
-    });
+    assignMnemonicsLater(*this);
 }
 
 /// A page that is made late would come at the window's end.

@@ -5,6 +5,7 @@
 #include "ui/bind_text.h"
 #include "ui/cell_editor.h"
 #include "ui/grid_view.h"
+#include "ui/mnemonics.h"
 #include "ui/script_font.h"
 
 #include <QComboBox>
@@ -42,7 +43,7 @@ QWidget *PartitionView::makeGrid(Program &program)
     const QFontMetrics metrics = m_grid->fontMetrics();
     m_grid->setColumnWidths({metrics.horizontalAdvance(u"9999"_s) + 12, 260,
                              metrics.horizontalAdvance(u"-00:00:00,000"_s) + 24},
-                            PartNameColumn);
+                            PartNameColumn, PartNameColumn);
     m_grid->setHint(tr("Type the name of a part's file, and then its length."));
     m_editor = new CellEditor(*m_grid, box, tr("Current cell"));
     connect(m_grid, &GridView::editAsked, this, [this, &box] {
@@ -89,6 +90,9 @@ void PartitionView::addCommands(Program &program)
     row->addWidget(makeButton(program.partitionList.command6));
     row->addWidget(makeButton(program.splitOutput.command28));
     row->addWidget(makeDefault(program.splitOutput.command5));
+    // The preview comes and goes with buttons of its own.
+    connect(&program.splitOutput.command28, &Button::captionChanged, this,
+            [this] { assignMnemonicsLater(*this); });
 }
 
 } // namespace kavro

@@ -1,6 +1,7 @@
 #include "ui/grid_view.h"
 
 #include "controls/form.h"
+#include "tests/ui/paint_counter.h"
 #include "tests/ui/settle.h"
 
 #include <QHeaderView>
@@ -21,7 +22,7 @@ protected:
     GridViews()
     {
         fill(1000);
-        view.setColumnWidths({50, 80, 80, 100, 100, 100}, 3);
+        view.setColumnWidths({50, 80, 80, 100, 100, 100}, 3, 5);
         view.resize(700, 400);
         view.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&view));
@@ -106,21 +107,10 @@ TEST_F(GridViews, ClickIsAnActAlsoOnTheCellThatStands)
 
 TEST_F(GridViews, BulkChangeKeepsSelectionAndScrollAndPaintsOnce)
 {
-    class Paints : public QObject
-    {
-    public:
-        bool eventFilter(QObject *, QEvent *event) override
-        {
-            count += event->type() == QEvent::Paint ? 1 : 0;
-            return false;
-        }
-        int count = 0;
-    };
     grid.setCurrent(310, 3);
     grid.setTopRow(300);
     settle();
-    Paints paints;
-    view.viewport()->installEventFilter(&paints);
+    const PaintCounter paints(*view.viewport());
     const QSignalSpy moved(&grid, &Grid::currentChanged);
     const QSignalSpy scrolled(&grid, &Grid::topRowChanged);
     fill(800);
