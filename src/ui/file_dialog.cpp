@@ -5,8 +5,10 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QStandardPaths>
+#include <QTreeView>
 #include <QUrl>
 
 namespace kavro {
@@ -63,6 +65,11 @@ FileDialog::FileDialog(const FileRequest &request, QWidget *parent)
         // What stands in the window beyond a name needs a window of Qt's own.
         setOption(DontUseNativeDialog);
         addOwnRow();
+    }
+    // Sizes and dates are read whole, the names get the rest.
+    if (const auto *list = findChild<QTreeView *>(u"treeView"_s)) {
+        list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     }
 }
 
