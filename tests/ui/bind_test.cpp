@@ -61,14 +61,19 @@ TEST_F(Bind, WidgetIsNamedAfterItsControlAndFollowsIt)
     EXPECT_TRUE(view->isHidden());
 }
 
-TEST_F(Bind, TypingIsOneActWithoutEcho)
+class BindField : public Bind
 {
-    TextBox box(form, u"rtfSearch"_s);
-    auto *edit = new QLineEdit(&window);
-    bind(*edit, box, u"Search for"_s);
+protected:
+    BindField() { bind(*edit, box, u"Search for"_s); }
+
+    TextBox box{form, u"rtfSearch"_s};
+    QLineEdit *edit = new QLineEdit(&window);
+};
+
+TEST_F(BindField, TypingIsOneActWithoutEcho)
+{
     const QSignalSpy typed(&box, &TextBox::typed);
     const QSignalSpy changed(&box, &TextBox::textChanged);
-
     QTest::keyClicks(edit, u"ac"_s);
     edit->setCursorPosition(1);
     QTest::keyClicks(edit, u"b"_s);
@@ -81,23 +86,14 @@ TEST_F(Bind, TypingIsOneActWithoutEcho)
     EXPECT_EQ(edit->text(), u"by code"_s);
     EXPECT_EQ(typed.count(), 3) << "the program's own write is no act";
     EXPECT_EQ(edit->accessibleName(), u"Search for"_s);
-}
 
-TEST_F(Bind, ListenerThatCorrectsWhatIsTypedIsShown)
-{
-    TextBox box(form, u"txtMaxCount"_s);
-    auto *edit = new QLineEdit(&window);
-    bind(*edit, box, {});
-    QObject::connect(&box, &TextBox::typed, &box, [&box] { box.setText(u"40"_s); });
+    QObject::connect(&box, &TextBox::typed, &box, [this] { box.setText(u"40"_s); });
     QTest::keyClicks(edit, u"x"_s);
-    EXPECT_EQ(edit->text(), u"40"_s);
+    EXPECT_EQ(edit->text(), u"40"_s) << "a listener corrects what is typed";
 }
 
-TEST_F(Bind, PastedLinesBecomeOne)
+TEST_F(BindField, PastedLinesBecomeOne)
 {
-    TextBox box(form, u"rtfEdit"_s);
-    auto *edit = new QLineEdit(&window);
-    bind(*edit, box, {});
     box.setText(u"ad"_s);
     edit->setCursorPosition(1);
     edit->insert(u"b\r\nc\nc\r"_s);
@@ -106,12 +102,9 @@ TEST_F(Bind, PastedLinesBecomeOne)
     EXPECT_EQ(edit->cursorPosition(), 7) << "where the paste ended";
 }
 
-TEST_F(Bind, SelectionGoesBothWays)
+TEST_F(BindField, SelectionGoesBothWays)
 {
-    TextBox box(form, u"rtfSubEditBasic"_s);
     box.setText(u"Good morning"_s);
-    auto *edit = new QLineEdit(&window);
-    bind(*edit, box, {});
     box.setSelection(5, 7);
     EXPECT_EQ(edit->selectedText(), u"morning"_s);
     edit->setSelection(0, 4);
@@ -119,11 +112,8 @@ TEST_F(Bind, SelectionGoesBothWays)
     EXPECT_EQ(box.selLength(), 4);
 }
 
-TEST_F(Bind, EnterAndEscapeAreKeysOfTheField)
+TEST_F(BindField, EnterAndEscapeAreKeysOfTheField)
 {
-    TextBox box(form, u"rtfEdit"_s);
-    auto *edit = new QLineEdit(&window);
-    bind(*edit, box, {});
     QList<Key> keys;
     QObject::connect(&box, &Control::keyPressed, &box, [&keys](Key key) { keys.append(key); });
     QTest::keyClick(edit, Qt::Key_Return);
@@ -164,13 +154,24 @@ TEST_F(Bind, FoldedListIsAComboBoxThatCanAlwaysBePicked)
 
     show();
     const QSignalSpy picked(&list, &ListBox::picked);
+    const auto turnWheel = [view] {
+        QWheelEvent turn({5, 5}, view->mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(view, &turn);
+    };
+    window.setFocus();
+    turnWheel();
+    EXPECT_EQ(list.selected(), 99) << "who scrolls past picks nothing";
     view->setFocus();
+    turnWheel();
+    EXPECT_EQ(list.selected(), 98);
+    list.setSelected(99);
     QTest::keyClick(view, Qt::Key_Up);
     EXPECT_EQ(list.selected(), 98);
-    EXPECT_EQ(picked.count(), 1);
+    EXPECT_EQ(picked.count(), 2);
     list.setSelected(3);
     EXPECT_EQ(view->currentIndex(), 3);
-    EXPECT_EQ(picked.count(), 1);
+    EXPECT_EQ(picked.count(), 2);
 }
 
 TEST_F(Bind, MenuEntryFollowsAndClicksItsButton)

@@ -16,6 +16,7 @@
 #include <QPlainTextEdit>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
@@ -47,7 +48,7 @@ Message question(const QString &kind, Answer defaultButton = Answer::Yes)
             .defaultButton = defaultButton};
 }
 
-TEST(MessageDialogs, ButtonsStandInOrderAndTheDefaultIsMarked)
+TEST(MessageDialogs, ButtonsStandInOrderAndEscapeIsCancelOrNothing)
 {
     struct Case
     {
@@ -55,45 +56,31 @@ TEST(MessageDialogs, ButtonsStandInOrderAndTheDefaultIsMarked)
         Answer defaultButton;
         QStringList buttons;
         QString marked;
+        bool closes; ///< by Escape and by the window's own button
     };
     const Case cases[] = {
-        {u"yesnocancel"_s, Answer::Yes, {u"Yes"_s, u"No"_s, u"Cancel"_s}, u"Yes"_s},
-        {u"yesno"_s, Answer::No, {u"Yes"_s, u"No"_s}, u"No"_s},
-        {u"okcancel"_s, Answer::Ok, {u"Ok"_s, u"Cancel"_s}, u"Ok"_s},
-        {u"ok"_s, Answer::Ok, {u"Ok"_s}, u"Ok"_s},
-        {QString(), Answer::Ok, {}, {}},
+        {u"yesnocancel"_s, Answer::Yes, {u"Yes"_s, u"No"_s, u"Cancel"_s}, u"Yes"_s, true},
+        {u"yesno"_s, Answer::No, {u"Yes"_s, u"No"_s}, u"No"_s, false},
+        {u"okcancel"_s, Answer::Ok, {u"Ok"_s, u"Cancel"_s}, u"Ok"_s, true},
+        {u"ok"_s, Answer::Ok, {u"Ok"_s}, u"Ok"_s, false},
+        {QString(), Answer::Ok, {}, {}, true},
     };
     for (const Case &c : cases) {
-        Form form(u"frmMessageBox"_s);
-        MessageDialog dialog(question(c.kind, c.defaultButton), form, nullptr);
-        dialog.show();
-        QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
-        std::ranges::sort(buttons, {}, [](const QPushButton *button) { return button->x(); });
-        QStringList texts;
-        QString marked;
-        for (const QPushButton *button : buttons) {
-            texts.append(button->accessibleName());
-            marked += button->isDefault() ? button->accessibleName() : QString();
-        }
-        EXPECT_EQ(texts, c.buttons);
-        EXPECT_EQ(marked, c.marked) << qPrintable(c.kind);
-    }
-}
-
-TEST(MessageDialogs, EscapeIsCancelOrNothing)
-{
-    struct Case
-    {
-        QString kind;
-        bool closes;
-    };
-    for (const Case &c : {Case{u"yesnocancel"_s, true}, Case{u"okcancel"_s, true},
-                          Case{u"yesno"_s, false}, Case{u"ok"_s, false}, Case{QString(), true}})
-    {
         for (const bool byKey : {true, false}) {
             Form form(u"frmMessageBox"_s);
-            MessageDialog dialog(question(c.kind), form, nullptr);
+            MessageDialog dialog(question(c.kind, c.defaultButton), form, nullptr);
             dialog.show();
+            QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
+            std::ranges::sort(buttons, {}, [](const QPushButton *button) { return button->x(); });
+            QStringList texts;
+            QString marked;
+            for (const QPushButton *button : buttons) {
+                texts.append(button->accessibleName());
+                marked += button->isDefault() ? button->accessibleName() : QString();
+            }
+            EXPECT_EQ(texts, c.buttons);
+            EXPECT_EQ(marked, c.marked) << qPrintable(c.kind);
+
             byKey ? QTest::keyClick(&dialog, Qt::Key_Escape) : static_cast<void>(dialog.close());
             EXPECT_EQ(dialog.isVisible(), !c.closes) << qPrintable(c.kind) << byKey;
             if (c.closes) {
@@ -101,6 +88,21 @@ TEST(MessageDialogs, EscapeIsCancelOrNothing)
                 EXPECT_NE(dialog.reply().answer, Answer::No);
             }
         }
+    }
+}
+
+TEST(MessageDialogs, TextIsSeenWhole)
+{
+    const QString words = u"Have a look at this, please. "_s;
+    for (const QString &text : {words.repeated(3), words.repeated(20), u"a/b"_s.repeated(100)}) {
+        Form form(u"frmMessageBox"_s);
+        Message message = question(u"ok"_s);
+        message.text = text;
+        MessageDialog dialog(message, form, nullptr);
+        dialog.show();
+        const auto *view = dialog.findChild<QPlainTextEdit *>();
+        EXPECT_FALSE(view->horizontalScrollBar()->isVisible());
+        EXPECT_EQ(view->verticalScrollBar()->maximum(), 0) << qPrintable(text.left(40));
     }
 }
 
@@ -122,19 +124,6 @@ protected:
     LanguageTable language;
     Messages messages{form, window, language, trace, variables};
 };
-
-TEST_F(RealMessages, ButtonAnswers)
-{
-    trace.macroRunning = true;
-    whenOpen([] {
-        QTest::mouseClick(topDialog()->findChild<QPushButton *>(u"cmdAction(2)"_s), Qt::LeftButton);
-    });
-    EXPECT_EQ(ask(u"yesno"_s), Answer::No);
-    EXPECT_TRUE(trace.macroRunning);
-    whenOpen([] { QTest::keyClick(topDialog(), Qt::Key_Escape); });
-    EXPECT_EQ(ask(u"yesnocancel"_s), Answer::Cancel);
-    EXPECT_FALSE(trace.macroRunning);
-}
 
 TEST_F(RealMessages, LettersWithAltPressTheButtons)
 {
@@ -223,20 +212,14 @@ TEST(FileDialogs, SaveUnderAnEntryThatIsNoFormatIsNotAccepted)
         FileRequest request = saveRequest(folder.path());
         request.filterIndex = entry;
         FileDialog dialog(request, nullptr);
+        dialog.reject();
+        EXPECT_FALSE(dialog.reply().accepted) << "Cancel is no file";
         dialog.accept();
         EXPECT_FALSE(dialog.reply().accepted) << entry;
         dialog.selectNameFilter(dialog.nameFilters().at(1));
         dialog.accept();
         EXPECT_EQ(dialog.reply().filterIndex, 1) << entry;
     }
-}
-
-TEST(FileDialogs, CancelIsNoFile)
-{
-    QTemporaryDir folder;
-    FileDialog dialog(saveRequest(folder.path()), nullptr);
-    dialog.reject();
-    EXPECT_FALSE(dialog.reply().accepted);
 }
 
 class Windows : public ::testing::Test

@@ -1,54 +1,27 @@
-#include "tests/support/test_program.h"
+#include "tests/ui/window_fixture.h"
 #include "ui/cell_editor.h"
 #include "ui/editor_page_view.h"
 #include "ui/finding_panel.h"
-#include "ui/form_focus.h"
-#include "ui/grid_view.h"
 
 #include <QInputMethodEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QTest>
-#include <QVBoxLayout>
-
-#include <gtest/gtest.h>
 
 namespace kavro::test {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-/// The editor page in a window of its own, over a document of two subtitles; the grid has the
-/// focus, and the current cell is the first text of row 1.
-class Editor : public ::testing::Test
+class Editor : public WindowFixture
 {
 protected:
-    Editor()
+    void SetUp() override
     {
-        run.start(run.write(u"film.srt"_s, twoSubtitles()));
-        page = new EditorPageView(run.program(), &window);
-        auto *layout = new QVBoxLayout(&window);
-        layout->addWidget(page);
-        new FormFocus(run->frmMain, window);
-        grid = page->findChild<GridView *>();
-        editor = page->findChild<CellEditor *>();
-        window.resize(800, 600);
-        window.show();
-        window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-        grid->setFocus();
-        run->editor.grdSubEdit.setCurrent(1, 3);
-        run->trace.RecordAction({}, 0);
+        openFilm();
+        page = view<EditorPageView>();
+        editor = view<CellEditor>();
     }
 
-    QString cell(int row, int col) { return run->editor.grdSubEdit.text(row, col); }
-    void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
-    void type(const QString &text)
-    {
-        for (const QChar letter : text) {
-            QTest::keyClick(QApplication::focusWidget(), letter.toLatin1());
-        }
-    }
     void clickCell(int row, int col)
     {
         const auto *model = static_cast<GridModel *>(grid->model());
@@ -56,28 +29,25 @@ protected:
                           grid->visualRect(model->indexOf(row, col)).center());
     }
 
-    TestProgram run;
-    QWidget window;
     EditorPageView *page = nullptr;
-    GridView *grid = nullptr;
     CellEditor *editor = nullptr;
 };
 
 TEST_F(Editor, F2EditsAndEnterWritesByTheChangeButton)
 {
-    const QString before = cell(1, 3).trimmed();
-    press(Qt::Key_F2);
+    const QString before = cell(1, 3);
+    key(Qt::Key_F2);
     ASSERT_TRUE(editor->isVisible());
     EXPECT_TRUE(editor->hasFocus());
     EXPECT_EQ(editor->text(), before);
     EXPECT_EQ(editor->selectedText(), before);
     EXPECT_EQ(editor->geometry(), grid->currentCell());
-    press(Qt::Key_End);
-    type(u"!"_s);
+    key(Qt::Key_End);
+    type("!");
     EXPECT_EQ(run->editor.rtfSubEditBasic.text(), before + u'!') << "the edit box holds the same";
-    EXPECT_EQ(cell(1, 3).trimmed(), before) << "nothing is written before Enter";
-    press(Qt::Key_Return);
-    EXPECT_EQ(cell(1, 3).trimmed(), before + u'!');
+    EXPECT_EQ(cell(1, 3), before) << "nothing is written before Enter";
+    key(Qt::Key_Return);
+    EXPECT_EQ(cell(1, 3), before + u'!');
     EXPECT_TRUE(run->document.fileChanged());
     EXPECT_EQ(run->trace.lastActionCode, 504) << "the button's code comes last";
     EXPECT_FALSE(editor->isVisible());
@@ -88,17 +58,17 @@ TEST_F(Editor, F2EditsAndEnterWritesByTheChangeButton)
 TEST_F(Editor, TypingReplacesAndEscapeDrops)
 {
     const QString before = cell(1, 3);
-    type(u"Hello"_s);
+    type("Hello");
     EXPECT_EQ(editor->text(), u"Hello"_s);
-    press(Qt::Key_Escape);
+    key(Qt::Key_Escape);
     EXPECT_FALSE(editor->isVisible());
     EXPECT_TRUE(grid->hasFocus());
     EXPECT_EQ(cell(1, 3), before);
-    EXPECT_EQ(run->editor.rtfSubEditBasic.text(), before.trimmed());
+    EXPECT_EQ(run->editor.rtfSubEditBasic.text(), before);
     EXPECT_FALSE(run->document.fileChanged());
-    type(u"x"_s);
-    press(Qt::Key_Return);
-    EXPECT_EQ(cell(1, 3).trimmed(), u"x"_s);
+    type("x");
+    key(Qt::Key_Return);
+    EXPECT_EQ(cell(1, 3), u"x"_s);
 }
 
 TEST_F(Editor, InputMethodTypesOverToo)
@@ -106,46 +76,40 @@ TEST_F(Editor, InputMethodTypesOverToo)
     QInputMethodEvent event;
     event.setCommitString(u"日"_s);
     QApplication::sendEvent(grid, &event);
-    press(Qt::Key_Return);
-    EXPECT_EQ(cell(1, 3).trimmed(), u"日"_s);
+    key(Qt::Key_Return);
+    EXPECT_EQ(cell(1, 3), u"日"_s);
 }
 
 TEST_F(Editor, LeavingTheCellKeepsWhatWasTyped)
 {
-    type(u"by click"_s);
+    type("by click");
     clickCell(2, 4);
-    EXPECT_EQ(cell(1, 3).trimmed(), u"by click"_s);
+    EXPECT_EQ(cell(1, 3), u"by click"_s);
     EXPECT_EQ(run->editor.grdSubEdit.row(), 2);
     EXPECT_FALSE(editor->isVisible());
 
-    type(u"by arrow"_s);
-    press(Qt::Key_Up);
-    EXPECT_EQ(cell(2, 4).trimmed(), u"by arrow"_s);
+    type("by arrow");
+    key(Qt::Key_Up);
+    EXPECT_EQ(cell(2, 4), u"by arrow"_s);
     EXPECT_EQ(run->editor.grdSubEdit.row(), 1);
     EXPECT_TRUE(grid->hasFocus());
-
-    type(u"by command"_s);
-    page->finishEdit();
-    EXPECT_EQ(cell(1, 4).trimmed(), u"by command"_s);
 }
 
 TEST_F(Editor, LookingAtACellWithoutTypingChangesNothing)
 {
-    press(Qt::Key_F2);
+    key(Qt::Key_F2);
     clickCell(2, 3);
-    press(Qt::Key_F2);
-    page->finishEdit();
+    key(Qt::Key_F2);
+    window->finishEdit();
     EXPECT_FALSE(run->document.fileChanged());
 }
 
 TEST_F(Editor, FocusElsewhereKeepsTheTextAndGoesThere)
 {
-    auto *other = new QPushButton(&window);
-    window.layout()->addWidget(other);
-    other->show();
-    type(u"kept"_s);
+    auto *other = view<QLineEdit>(u"rtfShiftDuration"_s);
+    type("kept");
     other->setFocus();
-    EXPECT_EQ(cell(1, 3).trimmed(), u"kept"_s);
+    EXPECT_EQ(cell(1, 3), u"kept"_s);
     EXPECT_TRUE(other->hasFocus());
     EXPECT_FALSE(editor->isVisible());
 }
@@ -154,18 +118,18 @@ TEST_F(Editor, EditBoxGoesOnWithTheCellsText)
 {
     auto *box = page->findChild<QLineEdit *>(u"rtfSubEditBasic"_s);
     auto *change = page->findChild<QPushButton *>(u"Command14"_s);
-    type(u"in the cell"_s);
+    type("in the cell");
     box->setFocus();
     EXPECT_EQ(box->selectedText(), u"in the cell"_s);
     EXPECT_FALSE(run->document.fileChanged()) << "the box has the text, the cell has not";
-    type(u"in the box"_s);
+    type("in the box");
     QTest::mouseClick(change, Qt::LeftButton);
-    EXPECT_EQ(cell(1, 3).trimmed(), u"in the box"_s);
+    EXPECT_EQ(cell(1, 3), u"in the box"_s);
     EXPECT_TRUE(box->hasFocus()) << "a click on a button leaves the focus where it is";
     box->selectAll();
-    type(u"by Enter"_s);
-    press(Qt::Key_Return);
-    EXPECT_EQ(cell(1, 3).trimmed(), u"by Enter"_s);
+    type("by Enter");
+    key(Qt::Key_Return);
+    EXPECT_EQ(cell(1, 3), u"by Enter"_s);
     EXPECT_TRUE(box->hasFocus());
 }
 
@@ -174,41 +138,77 @@ TEST_F(Editor, LongTextIsEditedWhole)
     const QString before(100000, u'x');
     run->editor.grdSubEdit.setText(1, 3, before);
     run->document.RefreshCurrentRow();
-    press(Qt::Key_F2);
-    press(Qt::Key_End);
-    type(u"y"_s);
-    press(Qt::Key_Return);
-    EXPECT_EQ(cell(1, 3).trimmed(), before + u'y');
+    key(Qt::Key_F2);
+    key(Qt::Key_End);
+    type("y");
+    key(Qt::Key_Return);
+    EXPECT_EQ(cell(1, 3), before + u'y');
 }
 
 TEST_F(Editor, TabStaysInTheCellAndEndRowHasNoEdit)
 {
-    press(Qt::Key_F2);
-    press(Qt::Key_Tab);
+    key(Qt::Key_F2);
+    key(Qt::Key_Tab);
     EXPECT_TRUE(editor->hasFocus());
-    press(Qt::Key_Escape);
+    key(Qt::Key_Escape);
     run->editor.grdSubEdit.setCurrent(3, 3);
-    press(Qt::Key_F2);
-    type(u"x"_s);
+    key(Qt::Key_F2);
+    type("x");
     EXPECT_FALSE(editor->isVisible());
     EXPECT_TRUE(grid->hasFocus());
 }
 
-TEST_F(Editor, CodeCanOpenTheCellToo)
+TEST_F(Editor, UndoKeysWalkOverTheDocumentInTheGrid)
 {
-    run->editor.grdSubEdit.setFocus();
-    run->editor.grdSubEdit.press(Key::Enter);
-    EXPECT_TRUE(editor->isVisible());
-    EXPECT_TRUE(editor->hasFocus());
-    run->editor.rtfEdit.press(Key::Escape);
-    EXPECT_FALSE(editor->isVisible());
+    type("first");
+    key(Qt::Key_Return);
+    type("second");
+    key(Qt::Key_Return);
+    ASSERT_TRUE(grid->hasFocus());
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(cell(1, 3), u"first"_s);
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(cell(1, 3), u"One"_s);
+    EXPECT_FALSE(run->document.fileChanged());
+    key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(cell(1, 3), u"first"_s);
+    key(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(cell(1, 3), u"second"_s);
     EXPECT_TRUE(grid->hasFocus());
+}
+
+TEST_F(Editor, UndoKeysWalkOverTheTextInACell)
+{
+    type("first");
+    key(Qt::Key_Return);
+    type("second");
+    key(Qt::Key_Return);
+    key(Qt::Key_Z, Qt::ControlModifier); // now there is a way in both directions
+    type("other");
+    ASSERT_TRUE(editor->hasFocus());
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(editor->hasFocus());
+    EXPECT_NE(editor->text(), u"other"_s);
+    EXPECT_EQ(cell(1, 3), u"first"_s) << "the document stays";
+    for (int i = 0; i < 10; ++i) {
+        key(Qt::Key_Z, Qt::ControlModifier); // also when nothing is left of the text
+    }
+    EXPECT_EQ(cell(1, 3), u"first"_s);
+    EXPECT_TRUE(editor->hasFocus());
+    for (int i = 0; i < 10; ++i) {
+        key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        key(Qt::Key_Y, Qt::ControlModifier);
+    }
+    EXPECT_EQ(cell(1, 3), u"first"_s);
+    EXPECT_TRUE(editor->hasFocus());
+    key(Qt::Key_Escape);
+    EXPECT_EQ(cell(1, 3), u"first"_s);
 }
 
 TEST_F(Editor, PreviewShowsTheLineAsItStands)
 {
     const auto *first = page->findChild<QLabel *>(u"Label23(0)"_s);
-    EXPECT_EQ(first->text(), cell(1, 3).trimmed());
+    EXPECT_EQ(first->text(), cell(1, 3));
     EXPECT_FALSE(first->font().italic());
     run->editor.Label23[0].setItalic(true);
     EXPECT_TRUE(first->font().italic());
@@ -219,11 +219,11 @@ TEST_F(Editor, FindingStandsBesideItsCell)
     const auto *panel = page->findChild<FindingPanel *>();
     EXPECT_FALSE(panel->isVisible());
     run->document.setRowErrorText(2, u"Overlap with the line above"_s);
-    press(Qt::Key_Down);
+    key(Qt::Key_Down);
     ASSERT_TRUE(panel->isVisible());
     EXPECT_EQ(panel->findChild<QLabel *>()->text(), u"Overlap with the line above"_s);
     EXPECT_GT(panel->y(), grid->currentCell().bottom());
-    press(Qt::Key_Up);
+    key(Qt::Key_Up);
     EXPECT_FALSE(panel->isVisible());
 }
 

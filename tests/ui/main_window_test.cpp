@@ -1,11 +1,10 @@
 #include "ui/main_window.h"
 
-#include "tests/support/test_program.h"
+#include "tests/ui/settle.h"
+#include "tests/ui/window_fixture.h"
 #include "ui/cell_editor.h"
-#include "ui/grid_view.h"
-#include "ui/help_browser.h"
-#include "ui/left_panel.h"
 #include "ui/navigation_tree.h"
+#include "ui/panel_splitter.h"
 #include "ui/view_state.h"
 
 #include <QAction>
@@ -14,31 +13,16 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QSplitter>
-#include <QStatusBar>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace kavro::test {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-class Window : public ::testing::Test
+class Window : public WindowFixture
 {
 protected:
-    /// Starts with that file and shows the window.
-    void open(const QString &file)
-    {
-        run.start(file);
-        window = std::make_unique<MainWindow>(run.program(), pages);
-        window->open();
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    }
-    void openFilm() { open(run.write(u"film.srt"_s, twoSubtitles())); }
-    QAction *action(const QString &name) { return window->findChild<QAction *>(name); }
+    QAction *action(const QString &name) { return view<QAction>(name); }
     void drop(const QString &path)
     {
         QMimeData data;
@@ -48,12 +32,8 @@ protected:
         QApplication::sendEvent(window.get(), &enter);
         QDropEvent event(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(window.get(), &event);
-        QTest::qWait(1);
+        settle();
     }
-
-    TestProgram run;
-    HelpPages pages;
-    std::unique_ptr<MainWindow> window;
 };
 
 TEST_F(Window, TitleNamesTheFileAndMarksChanges)
@@ -109,11 +89,8 @@ TEST_F(Window, MenusHoldWhatWorksAndNothingElse)
 TEST_F(Window, CommandTakesWhatIsBeingTyped)
 {
     openFilm();
-    run->editor.grdSubEdit.setCurrent(1, 3);
-    auto *grid = window->findChild<GridView *>();
-    grid->setFocus();
-    QTest::keyClicks(grid, u"typed"_s);
-    ASSERT_TRUE(window->findChild<CellEditor *>()->isVisible());
+    type("typed");
+    ASSERT_TRUE(view<CellEditor>()->isVisible());
     action(u"mnuSave"_s)->trigger();
     EXPECT_TRUE(TestProgram::read(run.path(u"film.srt"_s)).contains(u"\ntyped"_s));
     EXPECT_FALSE(window->isWindowModified());
@@ -167,16 +144,30 @@ TEST_F(Window, PlaceAndSplitterComeBack)
     openFilm();
     window->resize(1000, 640);
     window->move(20, 30);
-    auto *splitter = window->findChild<QSplitter *>();
-    splitter->setSizes({300, 700});
-    const int left = splitter->sizes().constFirst();
+    view<PanelSplitter>()->setPanelWidth(240);
     window->close();
     window.reset();
     run.restart();
     open(run.path(u"film.srt"_s));
     EXPECT_EQ(window->pos(), QPoint(20, 30));
     EXPECT_EQ(window->size(), QSize(1000, 640));
-    EXPECT_EQ(window->findChild<QSplitter *>()->sizes().constFirst(), left);
+    EXPECT_EQ(view<PanelSplitter>()->sizes().constFirst(), 240);
+}
+
+TEST_F(Window, LeftPanelGivesWayOnlyWhileAPageNeedsTheRoom)
+{
+    openFilm();
+    window->resize(1000, 640);
+    auto *splitter = view<PanelSplitter>();
+    splitter->setPanelWidth(240);
+    QWidget *right = splitter->widget(1);
+    right->setMinimumWidth(900);
+    settle();
+    EXPECT_LT(splitter->sizes().constFirst(), 240);
+    EXPECT_EQ(splitter->panelWidth(), 240) << "a person's choice stays";
+    right->setMinimumWidth(100);
+    settle();
+    EXPECT_EQ(splitter->sizes().constFirst(), 240);
 }
 
 TEST_F(Window, PlaceOutsideTheScreenIsBroughtInside)
@@ -190,7 +181,7 @@ TEST_F(Window, PlaceOutsideTheScreenIsBroughtInside)
 TEST_F(Window, TreeShowsWhatLeadsSomewhereAndActs)
 {
     openFilm();
-    auto *tree = window->findChild<NavigationTree *>();
+    auto *tree = view<NavigationTree>();
     QStringList texts;
     const auto walk = [&](auto &self, const QModelIndex &parent) -> void {
         for (int row = 0; row < tree->model()->rowCount(parent); ++row) {
@@ -223,30 +214,43 @@ TEST_F(Window, NumberKeysBringThePagesThatExist)
     EXPECT_EQ(run->navigation.tabMain.tab(), EditorTab);
 }
 
-TEST_F(Window, HelpKeyOpensThePagesHelp)
+TEST_F(Window, HelpKeyOpensTheHelpOfWhatHasTheFocus)
 {
+    struct Case
+    {
+        const char *field;
+        const char *page;
+    };
     openFilm();
-    QTest::keyClick(window.get(), Qt::Key_F1);
-    EXPECT_EQ(run->navigation.SSTab1.tab(), 1);
-    ASSERT_EQ(run.doors.help.opened.size(), 1);
-    EXPECT_TRUE(run.doors.help.opened.constFirst().endsWith(u"edit_bas.htm"_s));
+    for (const Case &c :
+         {Case{"grdSubEdit", "edit_bas.htm"}, Case{"rtfSubEditBasic", "edit_bas.htm"},
+          Case{"rtfShiftDuration", "edit_shi.htm"}, Case{"rtfClipBoard", "main_cli.htm"},
+          Case{"TV1", "edit_bas.htm"}})
+    {
+        run->navigation.SSTab1.setTab(0);
+        view<QWidget>(QLatin1String(c.field))->setFocus();
+        key(Qt::Key_F1);
+        EXPECT_EQ(run->navigation.SSTab1.tab(), 1);
+        EXPECT_TRUE(run.doors.help.opened.constLast().endsWith(QLatin1String(c.page))) << c.field;
+    }
 }
 
 TEST_F(Window, EveryControlHasANameAndAPlaceInTheTabOrder)
 {
     openFilm();
+    for (int tab = 0; tab < 4; ++tab) {
+        run->editor.SSTab2.setTab(tab);
+        run->editor.SSTab3.setTab(tab);
+    }
     QSet<QWidget *> reached;
     for (QWidget *at = window->nextInFocusChain(); at != window.get(); at = at->nextInFocusChain())
     {
         reached.insert(at);
     }
     for (QWidget *widget : window->findChildren<QWidget *>()) {
-        if (!widget->isVisible() || run->frmMain.control(widget->objectName()) == nullptr) {
-            continue;
-        }
-        EXPECT_FALSE(widget->accessibleName().isEmpty() && !qobject_cast<QLabel *>(widget))
-            << qPrintable(widget->objectName());
-        if (widget->focusPolicy() != Qt::NoFocus) {
+        const bool named = run->frmMain.control(widget->objectName()) != nullptr;
+        if (named && widget->focusPolicy() != Qt::NoFocus) {
+            EXPECT_FALSE(widget->accessibleName().isEmpty()) << qPrintable(widget->objectName());
             EXPECT_TRUE(reached.contains(widget)) << qPrintable(widget->objectName());
         }
     }

@@ -2,9 +2,8 @@
 
 #include "tests/support/test_program.h"
 
+#include <QElapsedTimer>
 #include <QListView>
-#include <QPushButton>
-#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -32,20 +31,6 @@ TEST(PreviewView, ShowsTheLinesOfEachPreview)
     run->menu.mnuPreview.click();
     QCoreApplication::processEvents();
     EXPECT_EQ(lines->model()->rowCount(), 3);
-}
-
-TEST(PreviewView, EscapeAndTheButtonCloseTheForm)
-{
-    TestProgram run;
-    run.start();
-    PreviewView view(run->frmPreview, run->scriptPreview, nullptr);
-    run->frmPreview.show();
-    view.show();
-    QTest::keyClick(&view, Qt::Key_Escape);
-    EXPECT_FALSE(run->frmPreview.isOpen());
-    run->frmPreview.show();
-    QTest::keyClick(&view, Qt::Key_Return);
-    EXPECT_FALSE(run->frmPreview.isOpen()) << "the button is the default one";
 }
 
 TEST(PreviewView, AFullDocumentShowsFast)

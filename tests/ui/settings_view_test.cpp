@@ -1,7 +1,6 @@
 #include "ui/settings_view.h"
 
 #include "tests/support/test_program.h"
-#include "ui/about_view.h"
 #include "ui/navigation_tree.h"
 #include "ui/script_font.h"
 
@@ -96,12 +95,8 @@ TEST_F(SettingsDialog, ListsFollowTheirBoxAndTakeTypedText)
     EXPECT_EQ(scripts.currentText(), u"222"_s);
 }
 
-TEST_F(SettingsDialog, EscapeIsCancelAndEnterIsOk)
+TEST_F(SettingsDialog, EnterIsOk)
 {
-    EXPECT_TRUE(find<QPushButton>(u"Command1(1)"_s).isDefault());
-    QTest::keyClick(view.get(), Qt::Key_Escape);
-    EXPECT_FALSE(run->frmSettings.isOpen());
-    run->frmSettings.show();
     QTest::keyClick(&find<QCheckBox>(u"Check7(6)"_s), Qt::Key_Return);
     EXPECT_FALSE(run->frmSettings.isOpen());
     EXPECT_FALSE(TestProgram::read(run.appPath(u"System/Settings/set.sdf"_s)).isNull());
@@ -138,23 +133,6 @@ TEST_F(SettingsDialog, ScriptGivesItsViewsAFontThatHasIt)
     }
     run->settings.Check6[0].check(false);
     EXPECT_EQ(label.font().families(), own.families());
-}
-
-TEST_F(SettingsDialog, AboutTellsVersionAndPack)
-{
-    run->about.show();
-    AboutView about(run->frmAbout, run->about, nullptr);
-    about.show();
-    QStringList lines;
-    for (const QLabel *label : about.findChildren<QLabel *>()) {
-        lines += label->isVisible() && !label->text().isEmpty() ? QStringList{label->text()}
-                                                                : QStringList();
-    }
-    EXPECT_EQ(lines,
-              QStringList({u"Kavro 4.0"_s, u"Build 400"_s, u"Programmed by Kavro contributors"_s,
-                           u"Language pack: English"_s}));
-    QTest::keyClick(&about, Qt::Key_Return);
-    EXPECT_FALSE(run->frmAbout.isOpen());
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "ui/shell.h"
 
 #include "tests/support/test_program.h"
+#include "ui/file_dialog.h"
 #include "ui/help_window_view.h"
 #include "ui/main_window.h"
 #include "ui/splash_view.h"
@@ -104,6 +105,33 @@ TEST_F(Shells, ViewsSpeakTheLanguageOfThePack)
     }
     EXPECT_TRUE(labels.contains(u"Duur"_s)) << labels.join(u'|').toStdString();
     EXPECT_FALSE(labels.contains(u"Duration"_s));
+    const FileDialog dialog(FileRequest(), nullptr);
+    EXPECT_EQ(dialog.findChild<QLabel *>(u"fileNameLabel"_s)->text(), u"Bestands&naam:"_s);
+}
+
+TEST_F(Shells, EscapeIsCancelAndEnterTheDefaultOfEachWindow)
+{
+    shell.program().start(film());
+    Program &program = shell.program();
+    program.goTo.txtLine.setText(u"1"_s);
+    const QHash<Form *, bool> closedByEscape{
+        {&program.frmAbout, false},  {&program.frmHelp, false},   {&program.frmTip, false},
+        {&program.frmWizard, false}, {&program.frmHistory, true}, {&program.frmPreview, true},
+        {&program.frmGoto, true},    {&program.frmSettings, true}};
+    for (auto it = closedByEscape.cbegin(); it != closedByEscape.cend(); ++it) {
+        Form &form = *it.key();
+        form.show();
+        auto *dialog = openWindow<FormDialog>();
+        ASSERT_NE(dialog, nullptr) << qPrintable(form.name());
+        const auto press = [dialog](Qt::Key key) {
+            QTest::keyClick(dialog->focusWidget() ? dialog->focusWidget() : dialog, key);
+        };
+        press(Qt::Key_Escape);
+        EXPECT_EQ(form.isOpen(), !it.value()) << qPrintable(form.name());
+        form.show();
+        press(Qt::Key_Return);
+        EXPECT_FALSE(form.isOpen()) << qPrintable(form.name());
+    }
 }
 
 TEST_F(Shells, HelpCentreShowsItsPage)

@@ -34,20 +34,17 @@ protected:
         box.setText(text);
         cursor < 0 ? field->selectAll() : field->setCursorPosition(cursor);
         for (const QChar key : keys) {
-            switch (key.unicode()) {
-            case u'U': QTest::keyClick(field.get(), Qt::Key_Up); break;
-            case u'D': QTest::keyClick(field.get(), Qt::Key_Down); break;
-            case u'P': QTest::keyClick(field.get(), Qt::Key_PageUp); break;
-            case u'N': QTest::keyClick(field.get(), Qt::Key_PageDown); break;
-            case u'<': QTest::keyClick(field.get(), Qt::Key_Backspace); break;
-            case u'x': QTest::keyClick(field.get(), Qt::Key_Delete); break;
-            default: QTest::keyClick(field.get(), key.toLatin1());
-            }
+            const auto named = keyNames.constFind(key);
+            named != keyNames.cend() ? QTest::keyClick(field.get(), *named)
+                                     : QTest::keyClick(field.get(), key.toLatin1());
         }
         EXPECT_EQ(box.text(), field->text()) << "the program holds what the field shows";
         return field->text();
     }
 
+    const QHash<QChar, Qt::Key> keyNames{{u'U', Qt::Key_Up},        {u'D', Qt::Key_Down},
+                                         {u'P', Qt::Key_PageUp},    {u'N', Qt::Key_PageDown},
+                                         {u'<', Qt::Key_Backspace}, {u'x', Qt::Key_Delete}};
     Form form{u"frmMain"_s};
     TextBox box{form, u"rtfTimeStart"_s};
     QWidget window;

@@ -1,12 +1,9 @@
 // The pages of the tools in the main window: keys, fields, letters and what a person sees of an
 // act.
 
-#include "tests/support/test_program.h"
+#include "tests/ui/paint_counter.h"
 #include "tests/ui/settle.h"
-#include "ui/grid_view.h"
-#include "ui/help_browser.h"
-#include "ui/main_window.h"
-#include "ui/partition_view.h"
+#include "tests/ui/window_fixture.h"
 #include "ui/tool_page.h"
 
 #include <QAction>
@@ -14,11 +11,8 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QTest>
 #include <QToolButton>
 #include <QTreeView>
-
-#include <gtest/gtest.h>
 
 #include <ctime>
 
@@ -39,33 +33,13 @@ QString manySubtitles(int count)
     return text;
 }
 
-/// Counts how often a widget is painted.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget &widget) { widget.installEventFilter(this); }
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-
-    int count = 0;
-};
-
-/// The main window over a document of that many subtitles; the grid has the focus.
-class ToolPageWindow : public ::testing::Test
+/// The main window over a document of that many subtitles.
+class ToolPageWindow : public WindowFixture
 {
 protected:
     void open(int subtitles)
     {
-        run.start(run.write(u"film.srt"_s, manySubtitles(subtitles)));
-        window = std::make_unique<MainWindow>(run.program(), help);
-        window->open();
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-        grid = window->findChild<GridView *>();
-        grid->setFocus();
+        WindowFixture::open(run.write(u"film.srt"_s, manySubtitles(subtitles)));
         run->editor.grdSubEdit.setCurrent(2, FirstTextColumn);
         run->trace.RecordAction({}, 0);
         settle();
@@ -75,24 +49,6 @@ protected:
         strip.setTab(tab);
         settle(); // letters and lists are brought up to date behind it
     }
-    template <class T>
-    T *view(const QString &name)
-    {
-        T *found = window->findChild<T *>(name);
-        EXPECT_NE(found, nullptr) << qPrintable(name);
-        return found;
-    }
-    static void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
-    }
-    QString focus() { return QApplication::focusWidget()->objectName(); }
-    QString cell(int row, int col) { return run->editor.grdSubEdit.text(row, col).trimmed(); }
-
-    TestProgram run;
-    HelpPages help;
-    std::unique_ptr<MainWindow> window;
-    GridView *grid = nullptr;
 };
 
 TEST_F(ToolPageWindow, InsertAndDeleteAreKeysOfTheGrid)
@@ -119,7 +75,7 @@ TEST_F(ToolPageWindow, SearchKeysLeadToTheirFieldsAndGoOn)
     open(30);
     key(Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(focus(), u"rtfSearch"_s);
-    QTest::keyClicks(QApplication::focusWidget(), u"line 2"_s);
+    type("line 2");
     key(Qt::Key_Return);
     EXPECT_EQ(run->editor.grdSubEdit.row(), 2);
     EXPECT_EQ(focus(), u"rtfSearch"_s) << "the focus stays for the next search";
@@ -135,7 +91,7 @@ TEST_F(ToolPageWindow, SearchKeysLeadToTheirFieldsAndGoOn)
     key(Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(view<QLineEdit>(u"rtfSearch"_s)->selectedText(), u"line 2"_s);
     EXPECT_TRUE(run->searchReplace.Option1[0].isOn());
-    QTest::keyClicks(QApplication::focusWidget(), u"nowhere"_s);
+    type("nowhere");
     key(Qt::Key_Return);
     const auto *state = view<QLabel>(u"StatusBar1.3"_s);
     EXPECT_TRUE(state->text().contains(u"nowhere"_s)) << qPrintable(state->text());
@@ -169,33 +125,25 @@ TEST_F(ToolPageWindow, EnterPressesTheButtonOfThePage)
     EXPECT_EQ(run.takeMessages(), QStringList());
 }
 
-TEST_F(ToolPageWindow, FieldsAreNamedAndBoundBothWays)
+TEST_F(ToolPageWindow, FieldsAreBoundBothWays)
 {
     open(5);
     int fields = 0;
-    for (TabStrip *strip : {&run->editor.SSTab2, &run->editor.SSTab3}) {
-        for (int tab = 0; tab < 4; ++tab) {
-            show(*strip, tab);
-        }
+    for (int tab = 0; tab < 4; ++tab) {
+        show(run->editor.SSTab2, tab);
+        show(run->editor.SSTab3, tab);
     }
-    const auto pages = window->findChildren<ToolPage *>();
-    for (const ToolPage *page : pages) {
-        for (QWidget *widget : page->findChildren<QWidget *>()) {
-            if ((widget->focusPolicy() & Qt::TabFocus) != 0 && widget->window() == window.get()
-                && !widget->objectName().startsWith(u"qt_"_s))
-            {
-                EXPECT_FALSE(widget->accessibleName().isEmpty())
-                    << widget->metaObject()->className() << qPrintable(widget->objectName());
-            }
-            auto *edit = qobject_cast<QLineEdit *>(widget);
-            auto *box = qobject_cast<TextBox *>(run->control(widget->objectName()));
-            if (edit == nullptr || box == nullptr || !edit->isEnabled()) {
+    for (const ToolPage *page : window->findChildren<ToolPage *>()) {
+        for (QLineEdit *edit : page->findChildren<QLineEdit *>()) {
+            auto *box = qobject_cast<TextBox *>(run->control(edit->objectName()));
+            if (box == nullptr || !edit->isEnabled()) {
                 continue;
             }
             ++fields;
             const QString name = box->nameWithIndex();
             box->setText(u"by code"_s);
             EXPECT_EQ(edit->text(), u"by code"_s) << qPrintable(name);
+            EXPECT_EQ(edit->cursorPosition(), 0) << "a long text is seen from its beginning";
             edit->end(false);
             QTest::keyClick(edit, Qt::Key_X);
             EXPECT_EQ(box->text(), u"by codex"_s) << qPrintable(name);
@@ -217,8 +165,8 @@ TEST_F(ToolPageWindow, TabGoesThroughThePagesThatShowInReadingOrder)
     } while (!grid->hasFocus() && stops.size() < 100);
     qsizetype last = -1;
     for (const auto &name :
-         {u"grdSubEdit"_s, u"rtfSearch"_s, u"rtfReplace"_s, u"Option1(0)"_s, u"cmdSearch"_s,
-          u"List4"_s, u"rtfTimeStart"_s, u"rtfTimeEnd"_s, u"rtfDurShift"_s, u"Command15"_s,
+         {u"grdSubEdit"_s, u"rtfSearch"_s, u"rtfReplace"_s, u"Option1(0)"_s, u"List4"_s,
+          u"cmdSearch"_s, u"rtfTimeStart"_s, u"rtfTimeEnd"_s, u"rtfDurShift"_s, u"Command15"_s,
           u"Command19"_s, u"List1"_s, u"rtfClipBoard"_s})
     {
         EXPECT_GT(stops.indexOf(name), last) << qPrintable(name + u" in "_s + stops.join(u' '));
@@ -283,7 +231,7 @@ TEST_F(ToolPageWindow, AnActRepaintsTheGridOnceAndKeepsTheView)
 TEST_F(ToolPageWindow, ButtonTakesWhatIsBeingTypedFirst)
 {
     open(5);
-    QTest::keyClicks(grid, u"typed"_s);
+    type("typed");
     QTest::mouseClick(view<QPushButton>(u"Command10"_s), Qt::LeftButton);
     EXPECT_EQ(cell(3, FirstTextColumn), u"typed"_s) << "the line moved down by the insert";
     EXPECT_EQ(cell(2, FirstTextColumn), QString());
@@ -310,34 +258,54 @@ TEST_F(ToolPageWindow, FindingCanBePutAwayAndBroughtBack)
     open(5);
     run->document.setRowErrorText(2, u"Overlap"_s);
     run->document.RefreshCurrentRow();
-    ASSERT_TRUE(run->editor.errExp.isVisible());
-    key(Qt::Key_Return, Qt::AltModifier);
-    EXPECT_FALSE(run->editor.errExp.isVisible());
-    key(Qt::Key_Return, Qt::AltModifier);
-    EXPECT_TRUE(run->editor.errExp.isVisible());
+    for (const bool shown : {false, true}) {
+        key(Qt::Key_Return, Qt::AltModifier);
+        EXPECT_EQ(run->editor.errExp.isVisible(), shown);
+    }
     run->editor.grdSubEdit.setRow(3);
     key(Qt::Key_Return, Qt::AltModifier);
     EXPECT_FALSE(run->editor.errExp.isVisible()) << "there is none on this row";
 }
 
+TEST_F(ToolPageWindow, StepToAFindingShowsItsLine)
+{
+    open(5);
+    run->editor.grdSubEdit.setText(4, EndColumn, u"00:00:01,000"_s);
+    run->diagnose.Command27.click();
+    show(run->navigation.tabMain, DiagnoseTab);
+    view<QTreeView>(u"tvDiag"_s)->setFocus();
+    key(Qt::Key_F8);
+    EXPECT_EQ(run->navigation.tabMain.tab(), EditorTab);
+    EXPECT_EQ(run->editor.grdSubEdit.row(), 4);
+    EXPECT_TRUE(grid->hasFocus());
+    view<QLineEdit>(u"rtfSubEditBasic"_s)->setFocus();
+    key(Qt::Key_F8);
+    EXPECT_EQ(focus(), u"rtfSubEditBasic"_s) << "where the line shows the focus stays";
+}
+
 TEST_F(ToolPageWindow, ListOfPartsIsEditedInPlace)
 {
     open(5);
-    run->navigation.tabMain.setTab(PartitionTab);
-    auto *parts = view<GridView>(u"grid"_s);
-    parts->setFocus();
-    run->partition.grid.setCurrent(1, 1);
-    QTest::keyClicks(parts, u"disc1"_s);
+    show(run->navigation.tabMain, PartitionTab);
+    Grid &parts = run->partition.grid;
+    auto *list = view<GridView>(u"grid"_s);
+    list->setFocus();
+    parts.setCurrent(1, PartNameColumn);
+    type("disc1");
+    key(Qt::Key_Tab);
+    type("00:00:10,000");
     key(Qt::Key_Return);
-    EXPECT_EQ(run->partition.grid.text(1, 1), u"disc1"_s);
-    EXPECT_EQ(run->partition.grid.rows(), 3) << "the end row became a part";
-    EXPECT_TRUE(parts->hasFocus());
-    QTest::keyClicks(parts, u"lost"_s);
+    EXPECT_EQ(run->partition.partCount(), 1) << "the end row became a part";
+    EXPECT_EQ(parts.text(1, PartNameColumn), u"disc1"_s);
+    EXPECT_EQ(parts.text(1, PartLengthColumn), u"00:00:10,000"_s);
+    EXPECT_TRUE(list->hasFocus());
+    parts.setCurrent(1, PartNameColumn);
+    type("lost");
     key(Qt::Key_Escape);
-    EXPECT_EQ(run->partition.grid.text(1, 1), u"disc1"_s);
-    QTest::keyClicks(parts, u"kept"_s);
+    EXPECT_EQ(parts.text(1, PartNameColumn), u"disc1"_s);
+    type("kept");
     window->finishEdit();
-    EXPECT_EQ(run->partition.grid.text(1, 1), u"kept"_s);
+    EXPECT_EQ(parts.text(1, PartNameColumn), u"kept"_s);
 }
 
 TEST_F(ToolPageWindow, TreeOfFortyThousandNodesShowsAtOnce)
@@ -370,25 +338,6 @@ TEST_F(ToolPageWindow, TreeOfFortyThousandNodesShowsAtOnce)
     EXPECT_EQ(last.data().toString(), u"Line 20000"_s);
     EXPECT_TRUE(tree->viewport()->rect().intersects(tree->visualRect(last)))
         << "the branch is open to its end";
-}
-
-TEST_F(ToolPageWindow, APartIsTypedWithItsLengthInOneGo)
-{
-    open(3);
-    show(run->navigation.tabMain, PartitionTab);
-    Grid &parts = run->partition.grid;
-    parts.setCurrent(1, PartNameColumn);
-    auto *list = window->findChild<PartitionView *>()->findChild<GridView *>();
-    list->setFocus();
-    const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
-    QTest::keyClicks(QApplication::focusWidget(), u"d"_s);
-    QTest::keyClicks(QApplication::focusWidget(), u"isc1"_s);
-    press(Qt::Key_Tab);
-    QTest::keyClicks(QApplication::focusWidget(), u"00:00:10,000"_s);
-    press(Qt::Key_Return);
-    EXPECT_EQ(run->partition.partCount(), 1);
-    EXPECT_EQ(parts.text(1, PartNameColumn), u"disc1"_s);
-    EXPECT_EQ(parts.text(1, PartLengthColumn), u"00:00:10,000"_s);
 }
 
 } // namespace
