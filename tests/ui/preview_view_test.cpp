@@ -2,7 +2,7 @@
 
 #include "tests/support/test_program.h"
 
-#include <QElapsedTimer>
+#include <QCoreApplication>
 #include <QListView>
 
 #include <gtest/gtest.h>
