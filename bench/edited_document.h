@@ -21,6 +21,9 @@ struct EditedDocument : test::DocumentFixture
 {
     explicit EditedDocument(int count)
     {
+        while (bareHistory.List1.count() < 100) { // as many as a bounded history writes
+            bareHistory.LogHistory({}, {});
+        }
         for (int row = 1; row <= count; ++row) {
             lines.append({QString::number(row), timeAt(row * 700), timeAt(row * 700 + 600),
                           QStringLiteral(" We never thought it could end here "),
@@ -46,7 +49,17 @@ struct EditedDocument : test::DocumentFixture
     QList<GridRow> lines;
     QList<GridRow> loaded;
     Form frmBareHistory{QStringLiteral("frmHistory")};
-    EditHistory bareHistory{frmBareHistory}; ///< keeps no snapshots
+    /// Writes no snapshot that is measured: those of its one long act were of the empty document.
+    EditHistory bareHistory{frmBareHistory,
+                            {.document = document,
+                             .forms = formWindows,
+                             .clock = clock,
+                             .folders = folders,
+                             .store = store,
+                             .messages = messages,
+                             .diagnose = diagnose,
+                             .versionNumber = {}}};
+    EditHistory::Bounded longAct{bareHistory};
     StatusPanels status{frmMain};
 };
 
